@@ -1,0 +1,14 @@
+// Message boxes under the names that the rooms above the platform use.
+#pragma once
+
+#include "plataforma/basico/Mensagens.h"
+
+namespace nucleo {
+
+using plataforma::Botoes;
+using plataforma::Icone;
+using plataforma::kTituloPadrao;
+using plataforma::Mensagens;
+using plataforma::Resposta;
+
+} // namespace nucleo

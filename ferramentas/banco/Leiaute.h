@@ -1,0 +1,21 @@
+// The thirteen numbers that place a bank's printed fields, as the store and QX70.INI hold them.
+#pragma once
+
+#include <array>
+#include <QString>
+#include <string>
+
+namespace banco {
+
+/// L1 to L5, then C1 to C8. Lines and the first five columns count from 1; C6 to C8 (day, month, year) are
+/// distances in columns from C5, the city.
+using Leiaute = std::array<int, 13>;
+
+/// The number as a field of the table holds it: three digits.
+std::string CampoDoLeiaute(int numero);
+
+/// The value of the bank's key in section Formato: numbers below 100 with two digits, from 100 on with three,
+/// and behind them the first 20 characters of the name as a comment.
+QString TextoDoFormato(const Leiaute &leiaute, const QString &nome);
+
+} // namespace banco

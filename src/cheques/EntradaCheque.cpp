@@ -431,6 +431,7 @@ void EntradaCheque::ImprimeChequeNormal(int ok, int &resultado)
     if (resultado == 1 && IncluiNoRelatorio())
         // A row that cannot be written is told, and the focus leaves the button all the same.
         m_tela.Guarda([this, &cheque] { GravaLog(cheque); });
+    // On purpose: kept in its place, though from here the check has always passed.
     else if (resultado == 1 && ok != 1)
         m_sistema.impressora.CancelaRel(QStringLiteral("U"));
     else if (resultado != 1)

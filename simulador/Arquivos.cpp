@@ -30,7 +30,10 @@ Arquivos::Arquivos(const QString &pasta, bool figuras)
 static bool GravaBytes(const QString &caminho, const QByteArray &bytes, QString &falha)
 {
     QSaveFile arquivo(caminho);
-    if (arquivo.open(QIODevice::WriteOnly) && arquivo.write(bytes) == bytes.size() && arquivo.commit())
+    // Unbuffered, since what a buffer held back would fail inside commit, which puts the file in place all
+    // the same.
+    if (arquivo.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && arquivo.write(bytes) == bytes.size() &&
+        arquivo.commit())
         return true;
     falha = QStringLiteral("O documento %1 não pôde ser gravado: %2.").arg(caminho, arquivo.errorString());
     return false;

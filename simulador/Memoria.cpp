@@ -156,7 +156,10 @@ QString GravaMemoria(const QString &caminho, const Memoria &memoria)
 {
     QSaveFile arquivo(caminho);
     const QByteArray bytes = EscreveMemoria(memoria);
-    if (arquivo.open(QIODevice::WriteOnly) && arquivo.write(bytes) == bytes.size() && arquivo.commit())
+    // Unbuffered, since what a buffer held back would fail inside commit, which puts the file in place all
+    // the same.
+    if (arquivo.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && arquivo.write(bytes) == bytes.size() &&
+        arquivo.commit())
         return {};
     return QStringLiteral("A memória não pôde ser gravada em %1: %2.").arg(caminho, arquivo.errorString());
 }

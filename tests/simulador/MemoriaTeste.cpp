@@ -1,9 +1,11 @@
 // The memory's file, the layouts of a settings file, faults and command line.
+#include <csignal>
 #include <gmock/gmock.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <sys/resource.h>
 
 #include "Apoio.h"
 #include "Formatos.h"
@@ -82,6 +84,22 @@ TEST_F(ArquivoDaMemoria, CannotBeWrittenOverAFolder)
 {
     ASSERT_TRUE(QDir().mkpath(Caminho()));
     EXPECT_THAT(GravaMemoria(Caminho(), Cheia()).toStdString(), testing::HasSubstr("não pôde ser gravada"));
+}
+
+TEST_F(ArquivoDaMemoria, AFullDiskIsToldAndLeavesTheOldFileWhole)
+{
+    ASSERT_EQ(GravaMemoria(Caminho(), Cheia()), QString());
+    const QByteArray antes = Le(Caminho());
+    rlimit limite{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limite), 0);
+    const rlimit cheio{100, limite.rlim_max};
+    auto *const sinal = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &cheio), 0);
+    const QString falha = GravaMemoria(Caminho(), Cheia());
+    setrlimit(RLIMIT_FSIZE, &limite);
+    std::signal(SIGXFSZ, sinal);
+    EXPECT_THAT(falha.toStdString(), testing::HasSubstr("não pôde ser gravada"));
+    EXPECT_EQ(Le(Caminho()).toStdString(), antes.toStdString());
 }
 
 struct CasoDanificada {

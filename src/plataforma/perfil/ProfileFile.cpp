@@ -1,16 +1,20 @@
-// A settings file of sections and keys. Lines are kept as bytes, so that what is not understood stays as it
-// is.
+// A settings file of sections and keys. Its bytes are walked line by line, so that what is not understood
+// stays as it is and a read ends at the key that it seeks.
 #include "plataforma/perfil/ProfileFile.h"
 
 #include "plataforma/basico/Texto.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
 #include <optional>
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QFile>
-#include <QFileInfo>
-#include <QList>
 #include <QSaveFile>
+#include <QSet>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 namespace plataforma {
@@ -19,22 +23,46 @@ namespace {
 
 const QByteArray MarcaUtf8 = QByteArrayLiteral("\xEF\xBB\xBF");
 
-/// The lines of a file, without their ends.
+/// The bytes of a file, and the way in which they are text.
 struct Conteudo {
-    QList<QByteArray> linhas;
+    QByteArray bytes;  ///< without the mark of UTF-8
     bool utf8 = false; ///< some editor saved the file with the mark of UTF-8; it stays that way
 
-    [[nodiscard]] QString Texto(const QByteArray &bytes) const
+    [[nodiscard]] QString Texto(QByteArrayView parte) const
     {
-        return utf8 ? QString::fromUtf8(bytes) : FromAnsi(bytes);
+        return utf8 ? QString::fromUtf8(parte) : FromAnsi(parte.toByteArray());
     }
     [[nodiscard]] QByteArray Bytes(const QString &texto) const
     {
         return utf8 ? texto.toUtf8() : ToAnsi(texto);
     }
-    /// The form in which two names are compared: as the file would hold it, without regard to case.
-    [[nodiscard]] QString Nome(const QString &nome) const { return UCase(Texto(Bytes(nome))); }
-    [[nodiscard]] QString Nome(const QByteArray &nome) const { return UCase(Texto(nome)); }
+};
+
+/// A name that is sought, compared as the file would hold it, without regard to case.
+class Nome {
+public:
+    Nome(const Conteudo &conteudo, const QString &nome)
+        : m_conteudo(conteudo), m_procurado(UCase(conteudo.Texto(conteudo.Bytes(nome))))
+    {
+    }
+    [[nodiscard]] bool Casa(QByteArrayView nome) const
+    {
+        for (qsizetype i = 0; i < nome.size(); ++i) {
+            const char c = nome[i];
+            if (static_cast<unsigned char>(c) >= 0x80) {
+                return UCase(m_conteudo.Texto(nome)) == m_procurado;
+            }
+            const char maiuscula = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+            if (i >= m_procurado.size() || m_procurado[i] != QLatin1Char(maiuscula)) {
+                return false;
+            }
+        }
+        return nome.size() == m_procurado.size();
+    }
+
+private:
+    const Conteudo &m_conteudo;
+    QString m_procurado;
 };
 
 bool EBranco(char16_t c)
@@ -42,7 +70,7 @@ bool EBranco(char16_t c)
     return c == ' ' || c == '\t' || c == '\v' || c == '\f' || c == '\r';
 }
 
-QByteArray SemBrancos(const QByteArray &texto)
+QByteArrayView SemBrancos(QByteArrayView texto)
 {
     qsizetype inicio = 0;
     qsizetype fim = texto.size();
@@ -52,149 +80,195 @@ QByteArray SemBrancos(const QByteArray &texto)
     while (fim > inicio && EBranco(static_cast<unsigned char>(texto[fim - 1]))) {
         --fim;
     }
-    return texto.mid(inicio, fim - inicio);
+    return texto.sliced(inicio, fim - inicio);
 }
 
-Conteudo ConteudoDe(QByteArray bytes)
-{
-    Conteudo conteudo;
-    if (bytes.startsWith(MarcaUtf8)) {
-        conteudo.utf8 = true;
-        bytes.remove(0, MarcaUtf8.size());
-    }
-    if (bytes.isEmpty()) {
-        return conteudo;
-    }
-    conteudo.linhas = bytes.split('\n');
-    if (conteudo.linhas.last().isEmpty()) {
-        conteudo.linhas.removeLast();
-    }
-    for (QByteArray &linha : conteudo.linhas) {
-        if (linha.endsWith('\r')) {
-            linha.chop(1);
+/// Goes through the lines of a text, without their ends.
+class Linhas {
+public:
+    explicit Linhas(QByteArrayView texto) : m_texto(texto) {}
+    bool Proxima()
+    {
+        m_inicio = m_fim;
+        if (m_inicio >= m_texto.size()) {
+            return false;
         }
+        const qsizetype quebra = m_texto.indexOf('\n', m_inicio);
+        m_fim = quebra < 0 ? m_texto.size() : quebra + 1;
+        m_linha = m_texto.sliced(m_inicio, (quebra < 0 ? m_fim : quebra) - m_inicio);
+        if (m_linha.endsWith('\r')) {
+            m_linha.chop(1);
+        }
+        return true;
     }
-    return conteudo;
+    /// Passes over the lines that have no such character.
+    void PulaAte(char caractere)
+    {
+        const qsizetype onde = m_texto.indexOf(caractere, m_fim);
+        const QByteArrayView antes = m_texto.sliced(m_fim, (onde < 0 ? m_texto.size() : onde) - m_fim);
+        m_fim = onde < 0 ? m_texto.size() : m_fim + antes.lastIndexOf('\n') + 1;
+    }
+    [[nodiscard]] QByteArrayView Linha() const { return m_linha; }
+    [[nodiscard]] qsizetype Inicio() const { return m_inicio; } ///< of the line, in bytes of the text
+    [[nodiscard]] qsizetype Fim() const { return m_fim; }       ///< behind the end of the line
+
+private:
+    QByteArrayView m_texto;
+    QByteArrayView m_linha;
+    qsizetype m_inicio = 0;
+    qsizetype m_fim = 0;
+};
+
+/// Opens what stands under the name, when that is a file; waits for nobody. @return -1 when it cannot be read
+int AbreArquivo(const QByteArray &nome)
+{
+    const int fd = open(nome.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    struct stat dados {};
+    if (fd >= 0 && (fstat(fd, &dados) != 0 || !S_ISREG(dados.st_mode))) {
+        close(fd);
+        return -1;
+    }
+    return fd;
+}
+
+/// Whether nothing stands under the name; a link that leads nowhere is something.
+bool Falta(const QByteArray &nome)
+{
+    struct stat dados {};
+    return lstat(nome.constData(), &dados) != 0 && errno == ENOENT;
 }
 
 /// What the file holds; empty when there is none yet, nothing when it cannot be read.
 std::optional<Conteudo> LeArquivo(const QString &caminho)
 {
-    const QFileInfo dados(caminho);
-    if (!dados.exists()) {
-        return Conteudo();
+    const QByteArray nome = QFile::encodeName(caminho);
+    QFile arquivo;
+    const int fd = AbreArquivo(nome);
+    if (fd < 0) {
+        return Falta(nome) ? std::optional(Conteudo()) : std::nullopt;
     }
-    QFile arquivo(caminho);
-    if (!dados.isFile() || !arquivo.open(QIODevice::ReadOnly)) {
+    if (!arquivo.open(fd, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
+        close(fd);
         return std::nullopt;
     }
-    const QByteArray bytes = arquivo.readAll();
+    Conteudo conteudo{arquivo.readAll()};
     if (arquivo.error() != QFileDevice::NoError) {
         return std::nullopt;
     }
-    return ConteudoDe(bytes);
+    conteudo.utf8 = conteudo.bytes.startsWith(MarcaUtf8);
+    if (conteudo.utf8) {
+        conteudo.bytes.remove(0, MarcaUtf8.size());
+    }
+    return conteudo;
 }
 
-bool GravaArquivo(const QString &caminho, const Conteudo &conteudo)
+/// The lines again, each with the end that the program writes.
+void JuntaLinhas(QByteArrayView texto, QByteArray &saida)
+{
+    for (Linhas linhas(texto); linhas.Proxima();) {
+        saida.append(linhas.Linha()).append("\r\n");
+    }
+}
+
+/// Whether the bytes of an open file are on the disk; a file system that keeps none apart has nothing to
+/// fail.
+bool EstaNoDisco(int fd)
+{
+    return fsync(fd) == 0 || errno == EINVAL || errno == ENOTSUP;
+}
+
+bool GravaArquivo(const QString &caminho, const QByteArray &bytes)
 {
     QSaveFile arquivo(caminho);
-    if (!arquivo.open(QIODevice::WriteOnly)) {
-        return false;
-    }
-    QByteArray bytes = conteudo.utf8 ? MarcaUtf8 : QByteArray();
-    for (const QByteArray &linha : conteudo.linhas) {
-        bytes += linha + "\r\n";
-    }
-    return arquivo.write(bytes) == bytes.size() && arquivo.commit();
+    // Unbuffered: what a buffer holds back would fail only inside commit, which puts the file in place all
+    // the same, so that a full disk would leave an empty one.
+    return arquivo.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+           arquivo.write(bytes) == bytes.size() && EstaNoDisco(arquivo.handle()) && arquivo.commit();
 }
 
 /// The name inside the brackets; none when the line opens no section.
-std::optional<QByteArray> SecaoDaLinha(const QByteArray &linha)
+std::optional<QByteArrayView> SecaoDaLinha(QByteArrayView linha)
 {
-    const QByteArray limpa = SemBrancos(linha);
-    const qsizetype fim = limpa.indexOf(']');
-    if (!limpa.startsWith('[') || fim < 0) {
+    const QByteArrayView limpa = SemBrancos(linha);
+    if (!limpa.startsWith('[')) {
         return std::nullopt;
     }
-    return SemBrancos(limpa.mid(1, fim - 1));
+    const qsizetype fim = limpa.indexOf(']');
+    return fim < 0 ? std::nullopt : std::optional(SemBrancos(limpa.sliced(1, fim - 1)));
 }
 
-bool EComentario(const QByteArray &linha)
+bool EComentario(QByteArrayView linha)
 {
     return SemBrancos(linha).startsWith(';');
 }
 
 /// The name before "="; none for a comment and for a line without "=".
-std::optional<QByteArray> ChaveDaLinha(const QByteArray &linha)
+std::optional<QByteArrayView> ChaveDaLinha(QByteArrayView linha)
 {
     const qsizetype igual = linha.indexOf('=');
     if (igual < 0 || EComentario(linha)) {
         return std::nullopt;
     }
-    return SemBrancos(linha.left(igual));
+    return SemBrancos(linha.first(igual));
 }
 
 /// The value behind "=". Nothing but blanks was stored on purpose and is one blank.
-QByteArray ValorDaLinha(const QByteArray &linha)
+QByteArrayView ValorDaLinha(QByteArrayView linha)
 {
-    const QByteArray cru = linha.mid(linha.indexOf('=') + 1);
-    QByteArray valor = SemBrancos(cru);
+    const QByteArrayView cru = linha.sliced(linha.indexOf('=') + 1);
+    QByteArrayView valor = SemBrancos(cru);
     if (valor.isEmpty()) {
-        return cru.contains(' ') ? QByteArray(" ") : QByteArray();
+        return cru.contains(' ') ? QByteArrayView(" ") : QByteArrayView("");
     }
     const char aspas = valor[0];
     if (valor.size() > 1 && (aspas == '"' || aspas == '\'') && valor.endsWith(aspas)) {
-        valor = valor.mid(1, valor.size() - 2);
+        valor = valor.sliced(1, valor.size() - 2);
     }
     const qsizetype nulo = valor.indexOf('\0');
-    return nulo < 0 ? valor : valor.left(nulo);
+    return nulo < 0 ? valor : valor.first(nulo);
 }
 
-/// The lines of a section: its heading, and the line behind its last one.
-struct Trecho {
-    qsizetype titulo;
-    qsizetype fim;
+/// Where a key stands in the file, or where it would be put.
+struct Lugar {
+    bool temSecao = false;
+    std::optional<QByteArrayView> linha; ///< the key's own
+    qsizetype inicio = 0;                ///< of that line, or of the line to come, in bytes
+    qsizetype fim = 0;                   ///< behind that line; a line to come has no length yet
 };
 
-std::optional<Trecho> AchaSecao(const Conteudo &conteudo, const QString &secao)
+/// Stops behind the heading of the first section of that name. @return whether there is one
+bool AchaSecao(Linhas &linhas, const Nome &secao)
 {
-    const QString procurada = conteudo.Nome(secao);
-    std::optional<Trecho> trecho;
-    for (qsizetype i = 0; i < conteudo.linhas.size(); ++i) {
-        const auto nome = SecaoDaLinha(conteudo.linhas[i]);
-        if (nome && trecho) {
-            trecho->fim = i;
-            break;
-        }
-        if (nome && conteudo.Nome(*nome) == procurada) {
-            trecho = Trecho{i, conteudo.linhas.size()};
+    for (linhas.PulaAte('['); linhas.Proxima(); linhas.PulaAte('[')) {
+        const auto titulo = SecaoDaLinha(linhas.Linha());
+        if (titulo && secao.Casa(*titulo)) {
+            return true;
         }
     }
-    return trecho;
+    return false;
 }
 
-/// The line of a key inside a section; -1 when there is none.
-qsizetype AchaChave(const Conteudo &conteudo, const Trecho &trecho, const QString &chave)
+/// A section ends at the next heading. A new key goes behind the section's last line
+/// that says something, before comments and empty lines; a new section goes to the end.
+Lugar AchaChave(const Conteudo &conteudo, const QString &secao, const QString &chave)
 {
-    const QString procurada = conteudo.Nome(chave);
-    for (qsizetype i = trecho.titulo + 1; i < trecho.fim; ++i) {
-        const auto nome = ChaveDaLinha(conteudo.linhas[i]);
-        if (nome && conteudo.Nome(*nome) == procurada) {
-            return i;
+    Linhas linhas(conteudo.bytes);
+    if (!AchaSecao(linhas, Nome(conteudo, secao))) {
+        const qsizetype fim = conteudo.bytes.size();
+        return {false, {}, fim, fim};
+    }
+    const Nome nomeDaChave(conteudo, chave);
+    qsizetype nova = linhas.Fim();
+    while (linhas.Proxima() && !SecaoDaLinha(linhas.Linha())) {
+        const auto nome = ChaveDaLinha(linhas.Linha());
+        if (nome && nomeDaChave.Casa(*nome)) {
+            return {true, linhas.Linha(), linhas.Inicio(), linhas.Fim()};
+        }
+        if (!SemBrancos(linhas.Linha()).isEmpty() && !EComentario(linhas.Linha())) {
+            nova = linhas.Fim();
         }
     }
-    return -1;
-}
-
-/// Where a new key goes: behind the last line that says something, before comments and empty lines.
-qsizetype LugarDaNova(const Conteudo &conteudo, const Trecho &trecho)
-{
-    qsizetype i = trecho.fim;
-    while (i > trecho.titulo + 1 &&
-           (SemBrancos(conteudo.linhas[i - 1]).isEmpty() || EComentario(conteudo.linhas[i - 1]))) {
-        --i;
-    }
-    return i;
+    return {true, {}, nova, nova};
 }
 
 /// One line without breaks, ending where a NUL stands.
@@ -226,20 +300,23 @@ bool NomeServe(const QString &secao, const QString &chave)
     return chaveBoa && !secao.isEmpty() && !secao.contains(QLatin1Char(']'));
 }
 
-void PoeChave(Conteudo &conteudo, const QString &secao, const QString &chave, const QString &valor)
+/// The bytes of the file with one line changed or put in.
+QByteArray ComAChave(const Conteudo &conteudo, const QString &secao, const QString &chave,
+                     const QString &valor)
 {
-    const QByteArray fim = '=' + conteudo.Bytes(valor);
-    auto trecho = AchaSecao(conteudo, secao);
-    if (!trecho) {
-        conteudo.linhas.append('[' + conteudo.Bytes(secao) + ']');
-        trecho = Trecho{conteudo.linhas.size() - 1, conteudo.linhas.size()};
+    const Lugar lugar = AchaChave(conteudo, secao, chave);
+    const QByteArrayView texto = conteudo.bytes;
+    QByteArray saida = conteudo.utf8 ? MarcaUtf8 : QByteArray();
+    saida.reserve(texto.size() + texto.size() / 16 + 1024);
+    JuntaLinhas(texto.first(lugar.inicio), saida);
+    if (!lugar.temSecao) {
+        saida.append('[' + conteudo.Bytes(secao) + "]\r\n");
     }
-    const qsizetype linha = AchaChave(conteudo, *trecho, chave);
-    if (linha >= 0) {
-        conteudo.linhas[linha] = *ChaveDaLinha(conteudo.linhas[linha]) + fim;
-    } else {
-        conteudo.linhas.insert(LugarDaNova(conteudo, *trecho), conteudo.Bytes(chave) + fim);
-    }
+    // A key that is there keeps its spelling.
+    saida.append(lugar.linha ? ChaveDaLinha(*lugar.linha)->toByteArray() : conteudo.Bytes(chave));
+    saida.append('=' + conteudo.Bytes(valor) + "\r\n");
+    JuntaLinhas(texto.sliced(lugar.fim), saida);
+    return saida;
 }
 
 } // namespace
@@ -251,10 +328,37 @@ QString ProfileFile::GetPrivateProfileString(const QString &secao, const QString
 {
     const int limite = std::max(0, tamanho - 1);
     const auto conteudo = LeArquivo(m_caminho);
-    const auto trecho = conteudo ? AchaSecao(*conteudo, NomePedido(secao)) : std::nullopt;
-    const qsizetype linha = trecho ? AchaChave(*conteudo, *trecho, NomePedido(chave)) : -1;
-    const QString valor = linha < 0 ? padrao : conteudo->Texto(ValorDaLinha(conteudo->linhas[linha]));
+    if (!conteudo) {
+        return padrao.left(limite);
+    }
+    const Lugar lugar = AchaChave(*conteudo, NomePedido(secao), NomePedido(chave));
+    const QString valor = lugar.linha ? conteudo->Texto(ValorDaLinha(*lugar.linha)) : padrao;
     return valor.left(limite);
+}
+
+std::optional<QList<std::pair<QString, QString>>>
+ProfileFile::GetPrivateProfileSection(const QString &secao) const
+{
+    const auto conteudo = LeArquivo(m_caminho);
+    if (!conteudo) {
+        return std::nullopt;
+    }
+    QList<std::pair<QString, QString>> chaves;
+    QSet<QString> vistas;
+    Linhas linhas(conteudo->bytes);
+    if (!AchaSecao(linhas, Nome(*conteudo, NomePedido(secao)))) {
+        return chaves;
+    }
+    while (linhas.Proxima() && !SecaoDaLinha(linhas.Linha())) {
+        const auto bytes = ChaveDaLinha(linhas.Linha());
+        const QString nome = bytes ? conteudo->Texto(*bytes) : QString();
+        if (nome.isEmpty() || NomePedido(nome) != nome || vistas.contains(UCase(nome))) {
+            continue;
+        }
+        vistas.insert(UCase(nome));
+        chaves.append({nome, conteudo->Texto(ValorDaLinha(linhas.Linha()))});
+    }
+    return chaves;
 }
 
 bool ProfileFile::WritePrivateProfileString(const QString &secao, const QString &chave,
@@ -262,12 +366,22 @@ bool ProfileFile::WritePrivateProfileString(const QString &secao, const QString 
 {
     const QString nomeSecao = NomePedido(secao);
     const QString nomeChave = NomePedido(chave);
-    auto conteudo = LeArquivo(m_caminho);
+    const auto conteudo = LeArquivo(m_caminho);
     if (!conteudo || !NomeServe(nomeSecao, nomeChave)) {
         return false;
     }
-    PoeChave(*conteudo, nomeSecao, nomeChave, UmaLinha(valor));
-    return GravaArquivo(m_caminho, *conteudo);
+    return GravaArquivo(m_caminho, ComAChave(*conteudo, nomeSecao, nomeChave, UmaLinha(valor)));
+}
+
+bool ProfileFile::CanBeRead() const
+{
+    const QByteArray nome = QFile::encodeName(m_caminho);
+    const int fd = AbreArquivo(nome);
+    if (fd < 0) {
+        return Falta(nome);
+    }
+    close(fd);
+    return true;
 }
 
 } // namespace plataforma

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <optional>
+#include <QList>
 #include <QString>
+#include <utility>
 
 namespace plataforma {
 
@@ -20,6 +22,11 @@ public:
     /// apostrophes around a value is stripped.
     [[nodiscard]] QString GetPrivateProfileString(const QString &secao, const QString &chave,
                                                   const QString &padrao, int tamanho) const;
+    /// The keys of a section and their values, in the order of the file: each name that
+    /// GetPrivateProfileString finds, with the whole value that it gives. Empty when file or section is
+    /// missing; none when the file cannot be read.
+    [[nodiscard]] std::optional<QList<std::pair<QString, QString>>>
+    GetPrivateProfileSection(const QString &secao) const;
     /// Writes one key, creating file, section and key as needed; comments, order, empty lines and unknown
     /// keys stay, and a key keeps its old spelling. The file is replaced atomically. Line breaks inside the
     /// arguments become blanks and a NUL ends them, so that one value cannot forge another key; the value is
@@ -27,6 +34,10 @@ public:
     /// could not be read back (a key with "=" or beginning with ";" or "[", a section with "]"), nor when the
     /// file cannot be read or replaced; never throws
     bool WritePrivateProfileString(const QString &secao, const QString &chave, const QString &valor) const;
+
+    /// Whether reads go to the file itself: there is none yet, or it is a file that opens. When not, each
+    /// read gives the default and each write is refused, so that nothing in its place is lost.
+    [[nodiscard]] bool CanBeRead() const;
 
     [[nodiscard]] const QString &Caminho() const { return m_caminho; }
 

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace plataforma;
@@ -106,7 +107,63 @@ INSTANTIATE_TEST_SUITE_P(
                     CasoLeitura{"NulsElsewhere", Bytes("\0\0=\0\r\n[S]\0\r\n\0k=1\r\nk=v\r\n"), "v"}),
     [](const auto &caso) { return caso.param.nome; });
 
+// Listing: the keys of the section "S".
+
+struct CasoSecao {
+    std::string nome;
+    QByteArray arquivo;
+    const char *chaves; ///< "name>value|" for each
+};
+void PrintTo(const CasoSecao &caso, std::ostream *os)
+{
+    *os << caso.arquivo.toPercentEncoding("[]=; ").constData();
+}
+class SecaoTest : public Pasta, public testing::WithParamInterface<CasoSecao> {};
+
+TEST_P(SecaoTest, ListsWhatCanBeRead)
+{
+    Poe(GetParam().arquivo);
+    const auto chaves = ProfileFile(Caminho()).GetPrivateProfileSection(" s ");
+    ASSERT_TRUE(chaves.has_value());
+    QString lista;
+    for (const auto &[nome, valor] : *chaves) {
+        lista += nome + '>' + valor + '|';
+        EXPECT_EQ(Le("S", nome, 1000), valor.toStdString()) << nome.toStdString();
+    }
+    EXPECT_EQ(lista.toStdString(), GetParam().chaves);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Perfil, SecaoTest,
+    testing::Values(CasoSecao{"InTheOrderOfTheFile", "[S]\r\nb=2\r\na=1\r\n", "b>2|a>1|"},
+                    CasoSecao{"EmptyFile", "", ""}, CasoSecao{"EmptySection", "[S]\r\n[T]\r\nk=v\r\n", ""},
+                    CasoSecao{"OnlyItsOwn", "j=0\r\n[S]\r\nk=1\r\n[T]\r\nl=2\r\n", "k>1|"},
+                    CasoSecao{"FirstOfTwoEqualSections", "[S]\r\nk=1\r\n[S]\r\nl=2\r\n", "k>1|"},
+                    CasoSecao{"FirstOfTwoEqualKeys", "[S]\r\n\xE1=1\r\nk=2\r\n\xC1=3\r\n", "á>1|k>2|"},
+                    CasoSecao{"BlanksAround", "[S]\n  k\t=  v w \n", "k>v w|"},
+                    CasoSecao{"BlankAndEmptyValues", "[S]\r\nk= \r\nl=\r\n", "k> |l>|"},
+                    CasoSecao{"QuotesAreStripped", "[S]\r\nk=\" v\"\r\n", "k> v|"},
+                    CasoSecao{"CommentsAndOtherLines", "[S]\r\n;k=v\r\nwords\r\n\r\nl=1\r\n", "l>1|"},
+                    CasoSecao{"KeyWithoutAName", "[S]\r\n=v\r\nk=1\r\n", "k>1|"},
+                    CasoSecao{"KeyThatNobodyCanAskFor", Bytes("[S]\r\nk\0=v\r\nl=1\r\n"), "l>1|"},
+                    CasoSecao{"AccentsAreWindows1252", "[S]\r\nk=S\xE3o\r\n", "k>São|"},
+                    CasoSecao{"Utf8WithItsMark", "\xEF\xBB\xBF[S]\r\nk=S\xC3\xA3o\r\n", "k>São|"}),
+    [](const auto &caso) { return caso.param.nome; });
+
 class PerfilTest : public Pasta {};
+
+TEST_F(PerfilTest, ASectionIsListedWithWholeValues)
+{
+    Poe("[S]\r\nk=" + QByteArray(200, 'x') + "\r\n");
+    EXPECT_EQ(ProfileFile(Caminho()).GetPrivateProfileSection("S")->at(0).second.size(), 200);
+}
+
+TEST_F(PerfilTest, AMissingFileHasNoKeysAndAFolderCannotBeListed)
+{
+    EXPECT_TRUE(ProfileFile(Caminho()).GetPrivateProfileSection("S")->isEmpty());
+    ASSERT_TRUE(QDir().mkdir(Caminho()));
+    EXPECT_FALSE(ProfileFile(Caminho()).GetPrivateProfileSection("S").has_value());
+}
 
 TEST_F(PerfilTest, AccentedNamesMatchWithoutRegardToCase)
 {
@@ -305,29 +362,6 @@ TEST_F(PerfilTest, OneLineOfMegabytesIsALine)
 
 // Failures
 
-TEST_F(PerfilTest, AFolderInItsPlace)
-{
-    ASSERT_TRUE(QDir(m_pasta.path()).mkdir("QX70.INI"));
-    EXPECT_EQ(Le("S", "k"), "-2");
-    EXPECT_FALSE(Grava("S", "k", "v"));
-    EXPECT_TRUE(QFileInfo(Caminho()).isDir());
-}
-
-TEST_F(PerfilTest, AMissingFolder)
-{
-    const ProfileFile perfil(Caminho("nada/QX70.INI"));
-    EXPECT_EQ(perfil.GetPrivateProfileString("S", "k", "-2", 160), "-2");
-    EXPECT_FALSE(perfil.WritePrivateProfileString("S", "k", "v"));
-    EXPECT_FALSE(QFileInfo::exists(Caminho("nada")));
-}
-
-TEST_F(PerfilTest, NoPathAtAll)
-{
-    const ProfileFile perfil{QString()};
-    EXPECT_EQ(perfil.GetPrivateProfileString("S", "k", "-2", 160), "-2");
-    EXPECT_FALSE(perfil.WritePrivateProfileString("S", "k", "v"));
-}
-
 /// While it lives the process is no longer root, whom no right of a file stops; folder and file go to that
 /// user.
 class SemSerRoot {
@@ -355,6 +389,61 @@ public:
 private:
     bool m_eraRoot;
 };
+
+TEST_F(PerfilTest, AFolderInItsPlace)
+{
+    ASSERT_TRUE(QDir(m_pasta.path()).mkdir("QX70.INI"));
+    EXPECT_EQ(Le("S", "k"), "-2");
+    EXPECT_FALSE(Grava("S", "k", "v"));
+    EXPECT_TRUE(QFileInfo(Caminho()).isDir());
+}
+
+TEST_F(PerfilTest, APipeInItsPlaceIsNotWaitedFor)
+{
+    ASSERT_EQ(mkfifo(QFile::encodeName(Caminho()).constData(), 0600), 0);
+    EXPECT_EQ(Le("S", "k"), "-2");
+    EXPECT_FALSE(Grava("S", "k", "v"));
+    struct stat dados {};
+    ASSERT_EQ(stat(QFile::encodeName(Caminho()).constData(), &dados), 0);
+    EXPECT_TRUE(S_ISFIFO(dados.st_mode));
+}
+
+// A share that is away for a moment must not be taken for a file that was never there.
+TEST_F(PerfilTest, ALinkThatLeadsNowhereIsNotFollowedByAWrite)
+{
+    ASSERT_TRUE(QFile::link(Caminho("longe.ini"), Caminho()));
+    EXPECT_EQ(Le("S", "k"), "-2");
+    EXPECT_FALSE(Grava("S", "k", "v"));
+    EXPECT_FALSE(QFileInfo::exists(Caminho("longe.ini")));
+    EXPECT_TRUE(QFileInfo(Caminho()).isSymLink());
+}
+
+TEST_F(PerfilTest, CanBeReadTellsAFileAndAPlaceForOneFromTheRest)
+{
+    EXPECT_TRUE(ProfileFile(Caminho()).CanBeRead()) << "none yet";
+    Poe("rubbish");
+    EXPECT_TRUE(ProfileFile(Caminho()).CanBeRead());
+    EXPECT_FALSE(ProfileFile(m_pasta.path()).CanBeRead()) << "a folder";
+    EXPECT_FALSE(ProfileFile(Caminho() + "/QX70.INI").CanBeRead()) << "inside a file";
+    const SemSerRoot comum(Caminho());
+    ASSERT_TRUE(QFile::setPermissions(Caminho(), QFileDevice::WriteOwner));
+    EXPECT_FALSE(ProfileFile(Caminho()).CanBeRead()) << "no right to";
+}
+
+TEST_F(PerfilTest, AMissingFolder)
+{
+    const ProfileFile perfil(Caminho("nada/QX70.INI"));
+    EXPECT_EQ(perfil.GetPrivateProfileString("S", "k", "-2", 160), "-2");
+    EXPECT_FALSE(perfil.WritePrivateProfileString("S", "k", "v"));
+    EXPECT_FALSE(QFileInfo::exists(Caminho("nada")));
+}
+
+TEST_F(PerfilTest, NoPathAtAll)
+{
+    const ProfileFile perfil{QString()};
+    EXPECT_EQ(perfil.GetPrivateProfileString("S", "k", "-2", 160), "-2");
+    EXPECT_FALSE(perfil.WritePrivateProfileString("S", "k", "v"));
+}
 
 TEST_F(PerfilTest, AnUnreadableFileIsNotReplaced)
 {
@@ -409,6 +498,19 @@ TEST_F(PerfilTest, AFullDiskLeavesTheOldFileWhole)
     EXPECT_EQ(Tira(), antes);
     EXPECT_EQ(QDir(m_pasta.path()).entryList(QDir::Files | QDir::Hidden), QStringList("QX70.INI"));
     EXPECT_TRUE(Grava("S", "k", "v"));
+}
+
+TEST_F(PerfilTest, AFullDiskLeavesASmallFileWholeToo)
+{
+    for (const int tamanho : {1, 100, 4096, 16383, 16384}) {
+        const QByteArray antes = "[S]\r\nj=" + QByteArray(tamanho, 'x') + "\r\nk=0\r\n";
+        Poe(antes);
+        {
+            const DiscoCheio cheio(tamanho / 2);
+            EXPECT_FALSE(Grava("S", "k", "v")) << tamanho;
+        }
+        EXPECT_EQ(Tira(), antes) << tamanho;
+    }
 }
 
 TEST_F(PerfilTest, TheFileIsReplacedNotWrittenInPlace)

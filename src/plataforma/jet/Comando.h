@@ -11,14 +11,19 @@ struct sqlite3_stmt;
 
 namespace plataforma::jet {
 
-/// Sets what statements may do for as long as it lives.
+/// Sets what statements may do for as long as it lives, and with it how long they wait for other programs.
 class ModoTemporario {
 public:
     ModoTemporario(Conexao &conexao, Conexao::Modo modo) : m_conexao(conexao), m_antes(conexao.modo)
     {
         m_conexao.modo = modo;
+        m_conexao.EsperaMais(modo == Conexao::Modo::Escrita);
     }
-    ~ModoTemporario() { m_conexao.modo = m_antes; }
+    ~ModoTemporario()
+    {
+        m_conexao.modo = m_antes;
+        m_conexao.EsperaMais(m_antes == Conexao::Modo::Escrita);
+    }
     ModoTemporario(const ModoTemporario &) = delete;
     ModoTemporario &operator=(const ModoTemporario &) = delete;
 

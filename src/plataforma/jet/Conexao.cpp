@@ -13,7 +13,8 @@ namespace plataforma {
 
 namespace {
 
-constexpr int ESPERA_MS = 250; // for a lock of another program
+constexpr int ESPERA_MS = 250;             // for a lock of another program, when reading
+constexpr int ESPERA_DE_ESCRITA_MS = 3000; // a row that is to be kept is worth a longer one
 
 // A missing file is never created, and an empty one is no store.
 QString ExigeArquivo(const QString &caminho)
@@ -121,6 +122,11 @@ void Database::Connection::Configura()
     // EXTRA is FULL that also syncs the folder once the journal is gone: without it a power cut right after
     // Update could bring the journal, and with it the old row, back.
     jet::Comando(*this, "pragma synchronous = extra").Passo();
+}
+
+void Database::Connection::EsperaMais(bool mais) const noexcept
+{
+    sqlite3_busy_timeout(Motor(), mais ? ESPERA_DE_ESCRITA_MS : ESPERA_MS);
 }
 
 jet::Tabela Database::Connection::LeTabela(const QString &nome)

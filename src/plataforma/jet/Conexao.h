@@ -19,6 +19,8 @@ struct Database::Connection {
     [[nodiscard]] const QString &Caminho() const { return m_caminho; }
     /// @throws RuntimeError 3078; 3051 the table has no key by which a row can be found again
     [[nodiscard]] jet::Tabela LeTabela(const QString &nome);
+    /// How long a lock of another program is waited for: a moment, or longer, for a write.
+    void EsperaMais(bool mais) const noexcept;
     /// Raises the last failure of the engine on this connection.
     [[noreturn]] void LancaErro(int codigo) const;
 

@@ -8,7 +8,8 @@ namespace plataforma {
 
 class Dynaset;
 
-/// An open store. Each write is on disk (full sync) when the call returns; no transaction spans two calls.
+/// An open store. Each write is on disk (full sync) when the call returns, and no transaction spans two
+/// calls, but where a run of writes is bracketed by BeginTrans and CommitTrans.
 class Database {
 public:
     /// @throws RuntimeError 3024 the file is missing; 3050 locked by another program; 3051 cannot be opened;
@@ -27,6 +28,17 @@ public:
     /// reading is understood. The dynaset keeps the connection alive; it may outlive this object.
     /// @throws RuntimeError 3075 query refused; 3078 no such table; 3050 locked; 3051 a table without any key
     [[nodiscard]] std::unique_ptr<Dynaset> OpenDynaset(const QString &consulta) const;
+
+    /// The writes that follow, through any dynaset of this object, are stored together by CommitTrans: all of
+    /// them, or none when the process ends before. Other programs can read meanwhile, but not write; rows
+    /// read ahead before are read again.
+    /// @throws RuntimeError 3050 locked; 3051 not writable
+    void BeginTrans() const;
+    /// On disk when it returns. When it fails nothing of the group is stored.
+    /// @throws RuntimeError 3050 locked; 3051 not writable or disk full
+    void CommitTrans() const;
+    /// Forgets the writes since BeginTrans; without one it does nothing. Never fails.
+    void Rollback() const noexcept;
 
     struct Connection; ///< shared by the dynasets, hidden in the source file
 

@@ -7,7 +7,7 @@ namespace plataforma {
 
 namespace {
 
-constexpr int MAIOR_BLOCO = 256; // rows read ahead at most
+constexpr int MAIOR_BLOCO = 1024; // rows read ahead at most
 
 [[noreturn]] void LancaSemLinha()
 {
@@ -219,6 +219,8 @@ void Dynaset::Impl::IniciaAlteracao()
 
 void Dynaset::Impl::EsqueceEdicao()
 {
+    if (m_edicao == Edicao::Nenhuma)
+        return;
     m_edicao = Edicao::Nenhuma;
     m_novos.clear();
 }

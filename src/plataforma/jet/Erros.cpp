@@ -15,6 +15,10 @@ struct Traducao {
 
 constexpr const char *NAO_ABRE =
     "Não foi possível abrir ou gravar o banco de dados \"%1\" (%2). Verifique o disco e as permissões.";
+constexpr const char *PROTEGIDO = "O banco de dados \"%1\" não pode ser gravado: o arquivo, a pasta ou o "
+                                  "disco é só de leitura. Verifique as permissões.";
+constexpr const char *DISCO_CHEIO = "O disco está cheio: não foi possível gravar no banco de dados \"%1\". "
+                                    "Libere espaço e tente de novo.";
 constexpr const char *EM_USO =
     "O banco de dados \"%1\" está em uso por outro programa. Feche-o e tente de novo.";
 constexpr const char *NAO_E_BANCO =
@@ -28,9 +32,9 @@ constexpr Traducao TRADUCOES[] = {
     {SQLITE_CORRUPT, ErrNotADatabase, NAO_E_BANCO},
     {SQLITE_FORMAT, ErrNotADatabase, NAO_E_BANCO},
     {SQLITE_CANTOPEN, ErrOpen, NAO_ABRE},
-    {SQLITE_READONLY, ErrOpen, NAO_ABRE},
+    {SQLITE_READONLY, ErrOpen, PROTEGIDO},
     {SQLITE_PERM, ErrOpen, NAO_ABRE},
-    {SQLITE_FULL, ErrOpen, NAO_ABRE},
+    {SQLITE_FULL, ErrOpen, DISCO_CHEIO},
     {SQLITE_IOERR, ErrOpen, NAO_ABRE},
     {SQLITE_NOMEM, ErrOpen, NAO_ABRE},
     {SQLITE_NOLFS, ErrOpen, NAO_ABRE},

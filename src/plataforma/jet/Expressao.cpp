@@ -88,6 +88,11 @@ void Leitor::Recusa(const QString &motivo) const
     LancaConsultaRecusada(motivo.isEmpty() ? onde : motivo + ' ' + onde, m_consulta);
 }
 
+void Leitor::RecusaNome(const QString &motivo) const
+{
+    LancaConsultaRecusada(motivo, m_consulta);
+}
+
 QString Expressao::Condicao()
 {
     const Parte parte = Ou();
@@ -108,12 +113,13 @@ qsizetype Expressao::Campo()
     if (m_leitor.Aceita(".")) {
         const QString &dono = m_apelido.isEmpty() ? m_tabela.nome : m_apelido;
         if (nome.compare(dono, Qt::CaseInsensitive) != 0)
-            m_leitor.Recusa(QString("a tabela \"%1\" não está na consulta.").arg(nome));
+            m_leitor.RecusaNome(QString("a tabela \"%1\" não está na consulta.").arg(nome));
         nome = m_leitor.ExigeNome();
     }
     const qsizetype indice = m_tabela.IndiceDe(nome);
     if (indice < 0)
-        m_leitor.Recusa(QString("o campo \"%1\" não existe em \"%2\".").arg(nome.left(60), m_tabela.nome));
+        m_leitor.RecusaNome(
+            QString("o campo \"%1\" não existe em \"%2\".").arg(nome.left(60), m_tabela.nome));
     return indice;
 }
 

@@ -24,6 +24,8 @@ public:
     /// Takes a name that is no keyword. @throws RuntimeError 3075
     QString ExigeNome();
     [[noreturn]] void Recusa(const QString &motivo = {}) const;
+    /// The same for a name that stands in its place, but is not in the store.
+    [[noreturn]] void RecusaNome(const QString &motivo) const;
 
 private:
     QString m_consulta;

@@ -2,6 +2,7 @@
 #include "Fonte.h"
 
 #include <algorithm>
+#include <sqlite3.h>
 
 namespace plataforma::jet {
 
@@ -9,12 +10,19 @@ namespace {
 
 constexpr const char *LIMITE = " limit ?";
 
-// Reads several rows under one lock.
+// Reads several rows under one lock; inside a group of writes that lock is there.
 class TransacaoDeLeitura {
 public:
-    explicit TransacaoDeLeitura(Conexao &conexao) : m_conexao(conexao) { Comando(conexao, "begin").Passo(); }
+    explicit TransacaoDeLeitura(Conexao &conexao)
+        : m_conexao(conexao), m_propria(sqlite3_get_autocommit(conexao.Motor()) != 0)
+    {
+        if (m_propria)
+            Comando(conexao, "begin").Passo();
+    }
     ~TransacaoDeLeitura()
     {
+        if (!m_propria)
+            return;
         try {
             Comando(m_conexao, "rollback").Passo(); // nothing was written
         } catch (const std::exception &) {
@@ -26,6 +34,7 @@ public:
 
 private:
     Conexao &m_conexao;
+    bool m_propria;
 };
 
 } // namespace

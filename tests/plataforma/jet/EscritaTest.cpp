@@ -1,8 +1,11 @@
 // Writing of rows: what is stored, when it is refused, and that nobody is kept waiting by a dynaset.
 #include "Loja.h"
 
+#include <atomic>
 #include <QFile>
+#include <sqlite3.h>
 #include <sys/resource.h>
+#include <thread>
 
 using plataforma::Database;
 using plataforma::Dynaset;
@@ -177,6 +180,32 @@ TEST_F(EscritaTest, ALockIsToldNothingIsWrittenAndUpdateCanBeTriedAgain)
     EXPECT_EQ(outro.Valor("select count(*) from Log"), "1");
     d->Update();
     EXPECT_EQ(outro.Valor("select count(*) from Log"), "2");
+}
+
+// A check of the file or a report reads for a moment: the row is not given up for it.
+TEST_F(EscritaTest, AReaderThatEndsInTimeIsWaitedFor)
+{
+    SemeiaLog(1);
+    const auto d = Abre("Log");
+    d->AddNew();
+    d->SetField("Codigo", "00002");
+    const OutroPrograma leitor(Caminho());
+    leitor.Executa("begin");
+    EXPECT_EQ(leitor.Valor("select count(*) from Log"), "1");
+    std::atomic<bool> acabou = false;
+    std::thread terceiro([&] {
+        const OutroPrograma sonda(Caminho());
+        sqlite3_busy_timeout(sonda.Motor(), 0);
+        // Once nobody else may begin to write, ours has begun and waits for the reader alone.
+        while (!acabou &&
+               sqlite3_exec(sonda.Motor(), "begin immediate", nullptr, nullptr, nullptr) == SQLITE_OK)
+            sonda.Executa("rollback");
+        leitor.Executa("rollback");
+    });
+    EXPECT_EQ(NumeroDoErro([&] { d->Update(); }), 0);
+    acabou = true;
+    terceiro.join();
+    EXPECT_EQ(Valor("select count(*) from Log"), "2");
 }
 
 // A reader keeps the writer from ending its transaction: the row must not stay half written.

@@ -1,8 +1,11 @@
-// Dir: the names of the files that match a pattern.
+// See Dir.h.
 #include "plataforma/basico/Dir.h"
+
+#include "plataforma/basico/RuntimeError.h"
 
 #include <algorithm>
 #include <QDir>
+#include <QFile>
 #include <QStringView>
 
 namespace plataforma {
@@ -73,6 +76,18 @@ QString Dir::Next()
 QString FirstFile(const QString &padrao)
 {
     return Dir(padrao).Next();
+}
+
+void Kill(const QString &nome)
+{
+    QFile arquivo(nome);
+    if (arquivo.remove())
+        return;
+    if (!arquivo.exists())
+        throw RuntimeError(ErrFileNotFound, QStringLiteral("O arquivo \"%1\" não foi encontrado.").arg(nome));
+    throw RuntimeError(
+        ErrFileAccess,
+        QStringLiteral("O arquivo \"%1\" não pôde ser excluído: %2.").arg(nome, arquivo.errorString()));
 }
 
 } // namespace plataforma

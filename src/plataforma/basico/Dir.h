@@ -1,4 +1,4 @@
-// Dir: the names of the files that match a pattern.
+// Files by name: Dir, the names that match a pattern, and Kill, which deletes one.
 #pragma once
 
 #include <QString>
@@ -23,5 +23,9 @@ private:
 
 /// The first file name that matches, empty when there is none.
 QString FirstFile(const QString &padrao);
+
+/// Deletes a file; a bare name is sought in the current directory.
+/// @throws RuntimeError 53 there is no such file; 75 it cannot be deleted
+void Kill(const QString &nome);
 
 } // namespace plataforma

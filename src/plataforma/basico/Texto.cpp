@@ -108,6 +108,14 @@ QString RTrim(const QString &texto)
     return texto.left(fim);
 }
 
+QString OnlyDigits(const QString &texto)
+{
+    QString digitos;
+    std::copy_if(texto.begin(), texto.end(), std::back_inserter(digitos),
+                 [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
+    return digitos;
+}
+
 QString Space(qsizetype n)
 {
     ExigeContagem(n >= 0, QStringLiteral("Space"), n);

@@ -23,6 +23,8 @@ inline qsizetype Len(const QString &texto)
 QString Trim(const QString &texto);
 QString LTrim(const QString &texto);
 QString RTrim(const QString &texto);
+/// The characters "0" to "9" of a text; all others vanish.
+QString OnlyDigits(const QString &texto);
 /// `n` blanks. @throws RuntimeError 5 when n is negative
 QString Space(qsizetype n);
 /// Small letters of Windows-1252 made capital where the capital is in the code page too; the rest stays.

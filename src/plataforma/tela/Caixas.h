@@ -4,7 +4,11 @@
 #include "plataforma/basico/Mensagens.h"
 #include "plataforma/basico/Ocupado.h"
 
+#include <memory>
+#include <QElapsedTimer>
 #include <QObject>
+
+class QProgressDialog;
 
 namespace plataforma {
 
@@ -18,12 +22,21 @@ public:
 class OcupadoDaTela final : public QObject, public Ocupado {
     Q_OBJECT
 public:
+    OcupadoDaTela();
+    ~OcupadoDaTela() override;
     void Comeca() override;
     void Termina() override;
+    /// From the second second of the work on, a bar over the active window.
+    void Andamento(const QString &oQue, qint64 feitos, qint64 total) override;
     bool eventFilter(QObject *objeto, QEvent *evento) override;
 
 private:
+    void MostraBarra(const QString &oQue);
+
     int m_nivel = 0;
+    std::unique_ptr<QProgressDialog> m_barra;
+    QElapsedTimer m_desdeOComeco;
+    QElapsedTimer m_desdeAPintura;
 };
 
 } // namespace plataforma

@@ -1,6 +1,8 @@
 // See CampoTexto.h.
 #include "plataforma/tela/CampoTexto.h"
 
+#include "plataforma/basico/Texto.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -38,6 +40,16 @@ void CampoTexto::keyPressEvent(QKeyEvent *evento)
         return;
     }
     QLineEdit::keyPressEvent(evento);
+}
+
+void DeixaSoDigitos(QLineEdit *campo)
+{
+    const QString digitos = OnlyDigits(campo->text());
+    if (digitos == campo->text())
+        return;
+    const auto antesDoCursor = OnlyDigits(campo->text().left(campo->cursorPosition())).size();
+    campo->setText(digitos);
+    campo->setCursorPosition(static_cast<int>(antesDoCursor));
 }
 
 // Pastes what still fits, as a box with a limit does.

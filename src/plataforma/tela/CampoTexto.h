@@ -1,4 +1,4 @@
-// A text box with a limit on what is typed into it.
+// Text boxes that hold back what is typed: a box with a limit, and a rule for boxes of digits.
 #pragma once
 
 #include <QLineEdit>
@@ -20,5 +20,8 @@ private:
     void Cola();
     int m_limite;
 };
+
+/// Rebuilds the text of a box from its digits; the caret stays behind the digit that it stood behind.
+void DeixaSoDigitos(QLineEdit *campo);
 
 } // namespace plataforma

@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QShortcutEvent>
 
 namespace plataforma {
@@ -319,6 +320,13 @@ bool Tela::Rato(QWidget *controle, QEvent *evento)
     if (const auto clique = m_regras[controle].clique)
         Guarda(clique);
     return false;
+}
+
+void Tela::CentraNaTela()
+{
+    resize(sizeHint());
+    if (const QScreen *visor = QGuiApplication::primaryScreen())
+        move(visor->availableGeometry().center() - rect().center());
 }
 
 bool Tela::event(QEvent *evento)

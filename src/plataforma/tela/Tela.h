@@ -56,6 +56,8 @@ public:
 protected:
     bool event(QEvent *evento) override;
     void keyPressEvent(QKeyEvent *evento) override;
+    /// Takes the size that the controls ask for, in the middle of the display.
+    void CentraNaTela();
     /// Whether Esc closes this screen.
     void FechaComEsc(bool fecha) { m_fechaComEsc = fecha; }
 

@@ -1,5 +1,6 @@
-// Dir: the names of the files that match a pattern.
+// Dir: the names of the files that match a pattern. Kill: a file that goes.
 #include "plataforma/basico/Dir.h"
+#include "plataforma/basico/RuntimeError.h"
 
 #include <gtest/gtest.h>
 #include <QDir>
@@ -101,6 +102,58 @@ TEST_F(DirTest, FirstFileIsTheFirstName)
 {
     EXPECT_EQ(FirstFile(m_pasta.filePath("*.bmp")), "cheque.bmp");
     EXPECT_TRUE(FirstFile(m_pasta.filePath("*.wav")).isEmpty());
+}
+
+class KillTest : public DirTest {
+protected:
+    KillTest() : m_pastaAntes(QDir::currentPath()) {}
+    ~KillTest() override { QDir::setCurrent(m_pastaAntes); }
+    void EsperaFalha(const QString &nome, int numero)
+    {
+        try {
+            Kill(nome);
+            FAIL() << "nothing was thrown";
+        } catch (const RuntimeError &erro) {
+            EXPECT_EQ(erro.number(), numero);
+            EXPECT_TRUE(erro.text().contains(nome)) << erro.what();
+        }
+    }
+
+private:
+    QString m_pastaAntes;
+};
+
+TEST_F(KillTest, DeletesTheFileAndNoOther)
+{
+    Kill(m_pasta.filePath("cop0102.99"));
+    EXPECT_EQ(Nomes("cop*.*"), "COP0101.99 cop0102.00 copB.txt copia");
+}
+
+TEST_F(KillTest, ABareNameIsSoughtInTheCurrentDirectory)
+{
+    const QTemporaryDir outra;
+    ASSERT_TRUE(QFile::copy(m_pasta.filePath("copia"), outra.filePath("copia")));
+    ASSERT_TRUE(QDir::setCurrent(outra.path()));
+    Kill("copia");
+    EXPECT_FALSE(QFile::exists(outra.filePath("copia")));
+    EXPECT_TRUE(QFile::exists(m_pasta.filePath("copia")));
+}
+
+TEST_F(KillTest, AMissingFileIsNamed)
+{
+    EsperaFalha(m_pasta.filePath("nada.99"), ErrFileNotFound);
+}
+
+TEST_F(KillTest, AFolderIsNotDeleted)
+{
+    EsperaFalha(m_pasta.filePath("cop9999.99"), ErrFileAccess);
+    EXPECT_TRUE(QFile::exists(m_pasta.filePath("cop9999.99")));
+}
+
+TEST_F(KillTest, PatternsAreNames)
+{
+    EsperaFalha(m_pasta.filePath("cop*.99"), ErrFileNotFound);
+    EXPECT_EQ(Nomes("cop*.99"), "COP0101.99 cop0102.99");
 }
 
 } // namespace

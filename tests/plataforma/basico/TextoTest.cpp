@@ -46,6 +46,11 @@ INSTANTIATE_TEST_SUITE_P(
                     CasoRecorte{"TrimOfBlanksOnly", [] { return Trim("    "); }, ""},
                     CasoRecorte{"LTrimLeavesTheRight", [] { return LTrim("  a  "); }, "a  "},
                     CasoRecorte{"RTrimLeavesTheLeft", [] { return RTrim("  a  "); }, "  a"},
+                    CasoRecorte{"OnlyDigitsOfAMixedText", [] { return OnlyDigits("1a2 -3,4.5"); }, "12345"},
+                    CasoRecorte{"OnlyDigitsOfDigits", [] { return OnlyDigits("0123456789"); }, "0123456789"},
+                    CasoRecorte{"OnlyDigitsOfNone", [] { return OnlyDigits("abc /:"); }, ""},
+                    CasoRecorte{"OnlyDigitsOfNothing", [] { return OnlyDigits(""); }, ""},
+                    CasoRecorte{"OnlyDigitsOfOurOwnKind", [] { return OnlyDigits(u"1²٣３4"_qs); }, "14"},
                     CasoRecorte{"SpaceOfThree", [] { return Space(3); }, "   "},
                     CasoRecorte{"SpaceOfNothing", [] { return Space(0); }, ""}),
     [](const auto &caso) { return caso.param.nome; });

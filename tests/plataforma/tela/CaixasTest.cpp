@@ -5,6 +5,9 @@
 #include "plataforma/tela/Tela.h"
 
 #include <gtest/gtest.h>
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
 
@@ -140,6 +143,44 @@ TEST(Caixas, KeyHeldFromBeforeAnswersNothing)
     EXPECT_TRUE(aberta);
 }
 
+// No agreement comes out of a box that nobody answered.
+TEST(Caixas, OneTakenAwayIsCancelled)
+{
+    apoio::Caixas caixas;
+    plataforma::Caixas mensagens;
+    caixas.AoAbrir([](QMessageBox &caixa) { caixa.hide(); });
+    EXPECT_EQ(mensagens.MsgBox("t", Botoes::OkCancelar, Icone::Nenhum, "x"), Resposta::Cancelar);
+}
+
+struct CasoLetra {
+    std::string nome;
+    Qt::Key tecla;
+    Resposta resposta;
+};
+void PrintTo(const CasoLetra &caso, std::ostream *os)
+{
+    *os << caso.nome;
+}
+class LetraTest : public testing::TestWithParam<CasoLetra> {};
+TEST_P(LetraTest, AnswersAloneFromTheFocusedButtonAndFromTheBox)
+{
+    for (const bool noBotao : {true, false}) {
+        apoio::Caixas caixas;
+        plataforma::Caixas mensagens;
+        caixas.AoAbrir([&](QMessageBox &caixa) {
+            QWidget *alvo = noBotao ? static_cast<QWidget *>(caixa.defaultButton()) : &caixa;
+            QKeyEvent letra(QEvent::KeyPress, GetParam().tecla, Qt::NoModifier);
+            QCoreApplication::sendEvent(alvo, &letra);
+        });
+        caixas.Responde(GetParam().resposta == Resposta::Sim ? QMessageBox::No : QMessageBox::Yes);
+        EXPECT_EQ(mensagens.MsgBox("t", Botoes::SimNao, Icone::Pergunta, "x"), GetParam().resposta);
+    }
+}
+INSTANTIATE_TEST_SUITE_P(Letras, LetraTest,
+                         testing::Values(CasoLetra{"Sim", Qt::Key_S, Resposta::Sim},
+                                         CasoLetra{"Nao", Qt::Key_N, Resposta::Nao}),
+                         [](const auto &caso) { return caso.param.nome; });
+
 TEST(OcupadoDaTela, NoTickRunsWhereNobodyCouldAnswerItsBox)
 {
     QTimer tique;
@@ -188,6 +229,51 @@ TEST(OcupadoDaTela, KeysPressedDuringTheCallAreThrownAway)
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     QTest::keyClick(&campo, Qt::Key_Y);
     EXPECT_EQ(campo.text(), "y");
+}
+
+QProgressDialog *Barra()
+{
+    for (QWidget *janela : QApplication::topLevelWidgets())
+        if (auto *barra = qobject_cast<QProgressDialog *>(janela))
+            return barra;
+    return nullptr;
+}
+
+// Works for as long as it takes, and the machine's own clock tells how long that was.
+TEST(OcupadoDaTela, ABarStandsFromTheSecondSecondOnAndGoesAtTheEnd)
+{
+    plataforma::OcupadoDaTela ocupado;
+    QElapsedTimer relogio;
+    relogio.start();
+    ocupado.Comeca();
+    const QDeadlineTimer limite(30000);
+    while (!Barra() && !limite.hasExpired())
+        ocupado.Andamento("Trabalhando...", 30, 60);
+    ASSERT_NE(Barra(), nullptr);
+    EXPECT_GE(relogio.elapsed(), 1000);
+    EXPECT_TRUE(Barra()->isVisible());
+    EXPECT_EQ(Barra()->labelText(), "Trabalhando...");
+    EXPECT_EQ(Barra()->windowTitle(), "QX70 MIRA - Document Printer");
+    EXPECT_EQ(Barra()->value(), 50);
+    while (Barra()->value() == 50 && !limite.hasExpired())
+        ocupado.Andamento("Trabalhando...", 45, 60);
+    EXPECT_EQ(Barra()->value(), 75);
+    ocupado.Termina();
+    EXPECT_EQ(Barra(), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST(OcupadoDaTela, ShortWorkShowsNoBar)
+{
+    plataforma::OcupadoDaTela ocupado;
+    QElapsedTimer relogio;
+    relogio.start();
+    ocupado.Comeca();
+    ocupado.Andamento("Trabalhando...", 1, 2);
+    const bool mostrada = Barra() != nullptr;
+    const bool curto = relogio.elapsed() < 1000;
+    ocupado.Termina();
+    EXPECT_TRUE(!curto || !mostrada);
 }
 
 } // namespace

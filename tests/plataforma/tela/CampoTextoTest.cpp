@@ -57,4 +57,44 @@ TEST(CampoTexto, NoLimitTakesAll)
     EXPECT_EQ(campo.text().size(), 200);
 }
 
+struct CasoDigitos {
+    std::string nome;
+    QString texto;
+    int cursor;
+    QString fica;
+    int cursorDepois;
+};
+void PrintTo(const CasoDigitos &caso, std::ostream *os)
+{
+    *os << '"' << caso.texto.toStdString() << "\" at " << caso.cursor;
+}
+class DeixaSoDigitosTest : public testing::TestWithParam<CasoDigitos> {};
+TEST_P(DeixaSoDigitosTest, KeepsTheCaretBehindItsDigit)
+{
+    QLineEdit campo;
+    campo.setText(GetParam().texto);
+    campo.setCursorPosition(GetParam().cursor);
+    plataforma::DeixaSoDigitos(&campo);
+    EXPECT_EQ(campo.text(), GetParam().fica);
+    EXPECT_EQ(campo.cursorPosition(), GetParam().cursorDepois);
+}
+INSTANTIATE_TEST_SUITE_P(Textos, DeixaSoDigitosTest,
+                         testing::Values(CasoDigitos{"LetterAtTheEnd", "12a", 3, "12", 2},
+                                         CasoDigitos{"LetterAtTheBeginning", "a12", 1, "12", 0},
+                                         CasoDigitos{"LetterBetween", "1a2", 2, "12", 1},
+                                         CasoDigitos{"CaretBeforeTheLetter", "12a3", 1, "123", 1},
+                                         CasoDigitos{"ManyLetters", "ab1cd2ef3", 6, "123", 2},
+                                         CasoDigitos{"OnlyLetters", "abc", 2, "", 0},
+                                         CasoDigitos{"OnlyDigits", "123", 1, "123", 1}),
+                         [](const auto &caso) { return caso.param.nome; });
+
+TEST(DeixaSoDigitos, LeavesASelectionOfDigitsAlone)
+{
+    QLineEdit campo;
+    campo.setText("123");
+    campo.setSelection(0, 2);
+    plataforma::DeixaSoDigitos(&campo);
+    EXPECT_EQ(campo.selectedText(), "12");
+}
+
 } // namespace

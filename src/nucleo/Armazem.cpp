@@ -12,6 +12,10 @@ namespace nucleo {
 
 using plataforma::RuntimeError;
 
+namespace {
+const QString kNaoEstaAberto = QStringLiteral("O banco de dados não está aberto.");
+}
+
 Armazem::Armazem(const QString &caminhoApp, const QString &arquivoDados, Mensagens &mensagens)
     : m_pasta(caminhoApp), m_arquivo(arquivoDados), m_mensagens(mensagens)
 {
@@ -34,7 +38,7 @@ int Armazem::AbreBanco(int bancos, int favorecidos, int cidades, int log, int tr
     const int seletores[] = {SelBancos, SelFavorecido, SelCidade, SelLog, SelTransferencia};
     try {
         QDir::setCurrent(m_pasta);
-        m_banco = std::make_unique<plataforma::Database>(Caminho());
+        m_banco = std::make_shared<plataforma::Database>(Caminho());
         for (int i = 0; i < 5; ++i)
             if (tabelas[i].first == 1)
                 Abre(seletores[i], tabelas[i].second);
@@ -68,7 +72,7 @@ void Armazem::FechaBanco(int bancos, int favorecidos, int cidades, int log)
 void Armazem::Abre(int tabela, const QString &consulta)
 {
     if (!m_banco)
-        throw RuntimeError(plataforma::ErrObjectClosed, QStringLiteral("O banco de dados não está aberto."));
+        throw RuntimeError(plataforma::ErrObjectClosed, kNaoEstaAberto);
     m_conjuntos[tabela] = m_banco->OpenDynaset(consulta);
 }
 
@@ -120,6 +124,28 @@ plataforma::Dynaset &Armazem::Conjunto(int tabela)
     if (achado == m_conjuntos.end())
         throw RuntimeError(plataforma::ErrObjectClosed, QStringLiteral("A tabela não está aberta."));
     return *achado->second;
+}
+
+Armazem::Lote::Lote(Armazem &armazem) : m_banco(armazem.m_banco)
+{
+    if (!m_banco)
+        throw RuntimeError(plataforma::ErrObjectClosed, kNaoEstaAberto);
+    Abre();
+}
+
+Armazem::Lote::~Lote()
+{
+    m_banco->Rollback();
+}
+
+void Armazem::Lote::Abre()
+{
+    m_banco->BeginTrans();
+}
+
+void Armazem::Lote::Fecha()
+{
+    m_banco->CommitTrans();
 }
 
 QString ProximoIndex(plataforma::Dynaset &log)

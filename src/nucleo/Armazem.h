@@ -37,6 +37,9 @@ public:
     void FiltraRegistros(const QString &texto, int tabela);
     /// The same for the search of the popup, which then fills its list.
     void PesquisaRegistros(const QString &texto, int tabela);
+    /// Replaces the table's dynaset by the rows of a query text.
+    /// @throws RuntimeError 3420 when the store is not open; 3075 when the engine refuses the text
+    void AbreConsulta(const QString &consulta, int tabela) { Abre(tabela, consulta); }
     /// Name of a bank, or "Inexistente".
     QString NomeBancoPorCodigo(const QString &codigo);
     /// Name of a city. @throws RuntimeError 3021 when there is none: a miss is not tested for
@@ -49,6 +52,24 @@ public:
     [[nodiscard]] bool Aberto(int tabela) const { return m_conjuntos.count(tabela) > 0; }
     void FechaConjunto(int tabela) { m_conjuntos.erase(tabela); }
 
+    /// Stores a run of writes together. A group that is left without Fecha, because a write failed, is
+    /// undone.
+    class Lote {
+    public:
+        /// @throws RuntimeError 3420 the store is not open; 3050; 3051
+        explicit Lote(Armazem &armazem);
+        ~Lote();
+        Lote(const Lote &) = delete;
+        Lote &operator=(const Lote &) = delete;
+        /// Stores what was written so far; the object may go on with the next run after Abre.
+        /// @throws RuntimeError 3050; 3051
+        void Fecha();
+        void Abre();
+
+    private:
+        std::shared_ptr<plataforma::Database> m_banco; ///< outlives a store opened anew
+    };
+
     [[nodiscard]] QString Caminho() const; ///< full path of the store file
     [[nodiscard]] const QString &NomeDoArquivo() const { return m_arquivo; }
 
@@ -59,7 +80,7 @@ private:
     QString m_pasta;
     QString m_arquivo;
     Mensagens &m_mensagens;
-    std::unique_ptr<plataforma::Database> m_banco;
+    std::shared_ptr<plataforma::Database> m_banco;
     std::map<int, std::unique_ptr<plataforma::Dynaset>> m_conjuntos;
 };
 

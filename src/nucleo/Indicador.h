@@ -15,6 +15,7 @@ public:
     virtual void Cor(std::uint32_t bgr) = 0; ///< blue-green-red number: 0x00FF00 green, 0x0000FF red
 };
 
+using plataforma::Espera;
 using plataforma::Ocupado;
 
 } // namespace nucleo

@@ -6,11 +6,13 @@
 #include "plataforma/basico/Numero.h"
 #include "plataforma/basico/Texto.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace nucleo {
 
 namespace {
+constexpr double kMaiorOpcao = 2147483647;
 const QString kSistema = QStringLiteral("Sistema");
 
 // The settings file under whatever case its name has on disk.
@@ -35,7 +37,7 @@ int OpcaoNumerica(const QX_INI &ini, const QString &chave, int padrao)
     if (lido == kAusente)
         return padrao;
     const double valor = std::nearbyint(plataforma::Val(lido)); // a half goes to the even number
-    return valor > -32769 && valor < 32768 ? static_cast<int>(valor) : padrao;
+    return static_cast<int>(std::clamp(valor, -kMaiorOpcao, kMaiorOpcao));
 }
 
 bool CarregaInRel(const QX_INI &ini)

@@ -56,6 +56,7 @@ public:
 };
 
 /// A numeric setting of section `Opcoes`: the number that it reads as, or `padrao` when the key is missing.
+/// One too large is the largest there is.
 int OpcaoNumerica(const QX_INI &ini, const QString &chave, int padrao);
 
 /// `InRel`: whether the box starts ticked; a missing key or any value that does not read as 0 is written as

@@ -107,8 +107,9 @@ INSTANTIATE_TEST_SUITE_P(Opcoes, OpcaoTest,
                                          CasoOpcao{"LeadingDigitsCount", "PeriodoRelExc=12dias", 12},
                                          CasoOpcao{"NoDigitsAreZero", "PeriodoRelExc=abc", 0},
                                          CasoOpcao{"MinusTwoGivesTheDefault", "PeriodoRelExc=-2", 30},
-                                         CasoOpcao{"TooLargeGivesTheDefault", "PeriodoRelExc=99999999999",
-                                                   30}),
+                                         CasoOpcao{"StandsAsStored", "PeriodoRelExc=40000", 40000},
+                                         CasoOpcao{"TooLargeIsTheLargest", "PeriodoRelExc=99999999999",
+                                                   2147483647}),
                          [](const auto &caso) { return caso.param.nome; });
 
 struct CasoInRel {

@@ -4,8 +4,11 @@
 #include "app/ajuda/Ajuda.h"
 #include "app/Configurador.h"
 #include "app/Sobre.h"
+#include "cheques/CmpExtra.h"
 #include "cheques/EntradaCheque.h"
 #include "housekeeping/Expurgo.h"
+#include "housekeeping/OpSoft.h"
+#include "nucleo/Instalacao.h"
 #include "nucleo/Mensagens.h"
 #include "nucleo/Sistema.h"
 #include "plataforma/basico/Dir.h"
@@ -58,6 +61,7 @@ Main::~Main() = default;
 void Main::MontaControles()
 {
     cheques::Aberturas aberturas;
+    aberturas.camposExtras = [this] { Abre(m_cmpExtra); };
     aberturas.dica = [this](const QString &texto) { m_panel3D2->setText(texto); };
     m_entrada = new cheques::EntradaCheque(m_sistema, *this, aberturas);
     m_image1 = new QLabel;
@@ -119,7 +123,8 @@ void Main::MontaMenu()
     QMenu *arquivo = m_menu->addMenu(QStringLiteral("&Arquivo"));
     arquivo->menuAction()->setObjectName(QStringLiteral("arq"));
     Entra(arquivo, QStringLiteral("Conf_Qx70"), QStringLiteral("C&onfigurações"));
-    Entra(arquivo, QStringLiteral("MOpSoft"), QStringLiteral("Opções do Sof&tware"));
+    Entra(arquivo, QStringLiteral("MOpSoft"), QStringLiteral("Opções do Sof&tware"),
+          [this] { Abre(m_opSoft); });
     Entra(arquivo, QStringLiteral("Sair"), QStringLiteral("&Sair"), [this] { close(); });
 
     QMenu *cadastro = m_menu->addMenu(QStringLiteral("&Cadastro"));
@@ -130,7 +135,7 @@ void Main::MontaMenu()
           QStringLiteral("Para Impressão de Cheque &Transferência"));
     Entra(cadastro, QStringLiteral("Favor"), QStringLiteral("&Favorecidos"));
     Entra(cadastro, QStringLiteral("Cidad"), QStringLiteral("&Cidades"));
-    Entra(cadastro, QStringLiteral("CpoX"), QStringLiteral("Campo &Extra"));
+    Entra(cadastro, QStringLiteral("CpoX"), QStringLiteral("Campo &Extra"), [this] { Abre(m_cmpExtra); });
     Entra(cadastro, QStringLiteral("Layout"), QStringLiteral("&Layout de Cópia"));
 
     QMenu *impressao = m_menu->addMenu(QStringLiteral("&Impressão"));
@@ -139,7 +144,8 @@ void Main::MontaMenu()
     Entra(impressao, QStringLiteral("Imp_ChequeTransf"), QStringLiteral("Cheque &Transferência"));
     Entra(impressao, QStringLiteral("ch_pr"), QStringLiteral("Cheques a &Prazo"));
     Entra(impressao, QStringLiteral("CopiaCheque"), QStringLiteral("Cópia do C&heque"));
-    Entra(impressao, QStringLiteral("Verso"), QStringLiteral("&Verso do Cheque"));
+    Entra(impressao, QStringLiteral("Verso"), QStringLiteral("&Verso do Cheque"),
+          [this] { m_entrada->ImprimeVerso(); });
     Entra(impressao, QStringLiteral("Relat"), QStringLiteral("&Relatório"));
 
     QMenu *ajuda = m_menu->addMenu(QStringLiteral("Aju&da"));
@@ -173,23 +179,21 @@ void Main::IniciaAplicacao(ArgumentosLinha argumentos)
     m_sistema.NumCObrig = OpcaoNumerica(m_sistema.ini, QStringLiteral("NumCObrig"), 1);
     m_sistema.NumChkPgRel = OpcaoNumerica(m_sistema.ini, QStringLiteral("NumChkPgRel"), 55);
     TransfereArgumentos(argumentos);
-    Guarda([this] { housekeeping::ExcluiChequesAntigos(m_sistema); });
-    Guarda([this] { housekeeping::ExcluiCopiasAntigas(m_sistema); });
+    // The office's own periods cannot be known then: nothing is offered for deletion.
+    if (!AvisaFalhaDaInstalacao(m_sistema)) {
+        Guarda([this] { housekeeping::ExcluiChequesAntigos(m_sistema); });
+        Guarda([this] { housekeeping::ExcluiCopiasAntigas(m_sistema); });
+    }
     // Only now: a tick during a question of the start would take the splash from under it.
     m_timer1->start();
 }
 
 void Main::PosicionaJanela()
 {
-    resize(sizeHint());
+    CentraNaTela();
     const QScreen *tela = QGuiApplication::primaryScreen();
-    if (!tela)
-        return;
-    const QRect area = tela->availableGeometry();
-    if (tela->geometry().width() * kTwipsPorPonto < kTwips)
-        move(area.topLeft());
-    else
-        move(area.center() - rect().center());
+    if (tela && tela->geometry().width() * kTwipsPorPonto < kTwips)
+        move(tela->availableGeometry().topLeft());
 }
 
 void Main::CarregaOpcoes()
@@ -278,6 +282,18 @@ void Main::ConfiguraInicial()
         Icone::Nenhum, QStringLiteral("Configuração da QX-70"));
     AbreConfigurador(m_sistema);
     m_sistema.ini.GravaIni(secao, chave, kVazio);
+}
+
+// A screen opens beside the main one, which stays live; one that is open comes to the front.
+template <class T> void Main::Abre(QPointer<T> &tela)
+{
+    if (!tela || !tela->isVisible()) {
+        delete tela; // one that was closed and is about to go
+        tela = new T(m_sistema, this);
+    }
+    tela->show();
+    tela->raise();
+    tela->activateWindow();
 }
 
 void Main::MostraAjuda(const QString &topico)

@@ -18,7 +18,11 @@ class QProgressBar;
 class QTimer;
 
 namespace cheques {
+class CmpExtra;
 class EntradaCheque;
+} // namespace cheques
+namespace housekeeping {
+class OpSoft;
 }
 namespace nucleo {
 class Sistema;
@@ -63,6 +67,7 @@ private:
     void Timer1();
     void MostraLogo(const QString &nomeNoDisco, const QString &procurado);
     void ConfiguraInicial();
+    template <class T> void Abre(QPointer<T> &tela);
     void MostraAjuda(const QString &topico);
     void AbreSobre();
     void GravaInRel();
@@ -75,6 +80,8 @@ private:
     QLabel *m_image1 = nullptr;
     QProgressBar *m_gauge1 = nullptr;
     QTimer *m_timer1 = nullptr;
+    QPointer<cheques::CmpExtra> m_cmpExtra;
+    QPointer<housekeeping::OpSoft> m_opSoft;
     QPointer<Sobre> m_sobre; ///< the one box: splash first, About later
     std::int16_t m_logoAlternado = 1;
     std::int16_t m_estadoAbertura = 1; ///< 1 at start, 2 after the first tick, 0 from the second on

@@ -1,6 +1,9 @@
-// See EntradaCheque.h. What happens in the fields; how the form is laid out is in EntradaChequeForma.cpp.
+// See EntradaCheque.h. What happens in the fields; the form is laid out in EntradaChequeForma.cpp, and what
+// goes to the device is in EntradaChequeImpressao.cpp.
 #include "cheques/EntradaCheque.h"
 
+#include "cheques/PosicoesExtras.h"
+#include "cheques/Verso.h"
 #include "device/Fluxos.h"
 #include "nucleo/Mensagens.h"
 #include "nucleo/Relogio.h"
@@ -13,7 +16,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScopeGuard>
 
 namespace cheques {
 
@@ -21,24 +23,9 @@ using namespace nucleo;
 
 namespace {
 
-const QString kFrenteInfo = QStringLiteral("FrenteInfo");
-const QString kVerso = QStringLiteral("Verso");
 const QString kTamanhoMaximo = QStringLiteral("Tamanho Máximo deste campo...");
 const QString kErro = QStringLiteral("Erro");
-const QString kImpressaoDoCheque = QStringLiteral("Impressão do Cheque");
 constexpr int kNomeDoBanco = 6; // Label1
-
-// Brackets a flow with the device: wait cursor, and keys pressed meanwhile are discarded.
-class Espera {
-public:
-    explicit Espera(Ocupado &ocupado) : m_ocupado(ocupado) { m_ocupado.Comeca(); }
-    ~Espera() { m_ocupado.Termina(); }
-    Espera(const Espera &) = delete;
-    Espera &operator=(const Espera &) = delete;
-
-private:
-    Ocupado &m_ocupado;
-};
 
 } // namespace
 
@@ -107,7 +94,7 @@ void EntradaCheque::LigaFuncoes()
         connect(m_opcoes(indice), &QPushButton::clicked, this, [this, acao] { m_tela.Guarda(acao); });
     };
     liga(0, [this] { ImprimeCheque(); });
-    liga(1, m_aberturas.verso);
+    liga(1, [this] { ImprimeVerso(); });
     liga(2, m_aberturas.relatorio);
     liga(3, [this] {
         LimpaCheque();
@@ -262,7 +249,7 @@ void EntradaCheque::TeclaNaLinha(int indice, int tecla)
     if (tecla == plataforma::TeclaF8)
         m_text2(indice)->clear();
     else if (tecla == plataforma::TeclaF4)
-        m_sistema.ini.GravaIni(kVerso, ChaveDoVerso(indice), texto.isEmpty() ? QStringLiteral(" ") : texto);
+        GravaVerso(m_sistema.ini, indice, texto);
 }
 
 // The command goes first, the setting second, whatever the device answered.
@@ -301,10 +288,8 @@ void EntradaCheque::CarregaFrente()
 
 void EntradaCheque::LimpaVerso()
 {
-    for (int i = 0; i < kLinhasDoVerso; ++i) {
-        const QString lido = m_sistema.ini.GravaIni(kVerso, ChaveDoVerso(i));
-        m_text2(i)->setText(lido == kAusente ? QString() : lido);
-    }
+    for (int i = 0; i < kLinhasDoVerso; ++i)
+        m_text2(i)->setText(LeVerso(m_sistema.ini, i));
 }
 
 void EntradaCheque::PoeCampo(int indice, const QString &texto)
@@ -359,97 +344,6 @@ void EntradaCheque::AbreCopia()
 {
     if (VerificaCampos() == 1 && m_aberturas.copia)
         m_aberturas.copia();
-}
-
-// Printing
-
-void EntradaCheque::ImprimeCheque()
-{
-    const int ok = VerificaCampos();
-    if (ok == 0)
-        return;
-    int resultado = 1;
-    ImprimeCamposExtras(resultado);
-    if (resultado != 1) {
-        if (m_aberturas.camposExtras)
-            m_aberturas.camposExtras();
-        return;
-    }
-    ImprimeChequeNormal(ok, resultado);
-    m_tela.MoveFoco(m_text1(CampoBanco));
-}
-
-std::array<CampoExtra, kCamposExtras> EntradaCheque::LeCamposExtras() const
-{
-    std::array<CampoExtra, kCamposExtras> campos;
-    for (int i = 0; i < kCamposExtras; ++i) {
-        CampoExtra &campo = campos[static_cast<std::size_t>(i)];
-        const QString chave = ChaveDoExtra(i);
-        campo.linha = PosicaoDaChave(m_sistema.ini.GravaIni(kFrenteInfo, chave + QStringLiteral("Lin")));
-        campo.coluna = PosicaoDaChave(m_sistema.ini.GravaIni(kFrenteInfo, chave + QStringLiteral("Col")));
-        campo.texto = m_txtCpo(i)->text();
-    }
-    return campos;
-}
-
-void EntradaCheque::ImprimeCamposExtras(int &resultado)
-{
-    resultado = 1;
-    const auto campos = LeCamposExtras();
-    if (const auto falha = VerificaCamposExtras(campos)) {
-        m_sistema.mensagens.MsgBox(*falha, Botoes::Ok, Icone::Nenhum, kImpressaoDoCheque);
-        resultado = 2;
-        return;
-    }
-    // Before the port is opened: the library keeps the fields for the next cheque.
-    for (int i = 0; i < kCamposExtras; ++i) {
-        const CampoExtra &campo = campos[static_cast<std::size_t>(i)];
-        if (!campo.texto.isEmpty())
-            m_sistema.impressora.ImprimeCampoX(i + 1, campo.linha, campo.coluna, campo.texto);
-    }
-}
-
-void EntradaCheque::ImprimeChequeNormal(int ok, int &resultado)
-{
-    m_sistema.ComentarioLinha1 = m_text2(0)->text();
-    m_sistema.ComentarioLinha2 = m_text2(1)->text();
-    m_sistema.ComentarioLinha3 = m_text2(2)->text();
-    // What is printed and logged is what the operator confirms, whatever reaches the fields meanwhile.
-    TextosDoCheque cheque = Textos();
-    if (m_sistema.mensagens.MsgBox(QStringLiteral("Insira o Documento."), Botoes::OkCancelar,
-                                   Icone::Informacao, kImpressaoDoCheque) != Resposta::Ok)
-        return;
-    if (cheque.favorecido.isEmpty()) {
-        cheque.favorecido = QStringLiteral(".");
-        m_text1(CampoFavorecido)->setText(cheque.favorecido);
-    }
-    {
-        const Espera espera(m_sistema.ocupado);
-        resultado = device::EnviaChequeNormal(MontaTextosDoCheque(cheque), m_sistema.PortaSerial,
-                                              m_sistema.impressora);
-    }
-    if (resultado == 1 && IncluiNoRelatorio())
-        // A row that cannot be written is told, and the focus leaves the button all the same.
-        m_tela.Guarda([this, &cheque] { GravaLog(cheque); });
-    // On purpose: kept in its place, though from here the check has always passed.
-    else if (resultado == 1 && ok != 1)
-        m_sistema.impressora.CancelaRel(QStringLiteral("U"));
-    else if (resultado != 1)
-        m_sistema.mensagens.MsgBox(QStringLiteral("Problemas com a impressao do cheque"), Botoes::Ok,
-                                   Icone::Exclamacao, TituloDaFalha(resultado));
-}
-
-void EntradaCheque::GravaLog(const TextosDoCheque &cheque)
-{
-    if (m_sistema.armazem.AbreBanco(0, 0, 0, 1, 0) == kSemBanco)
-        return;
-    const auto fecha = qScopeGuard([this] { m_sistema.armazem.FechaBanco(0, 0, 0, 1); });
-    plataforma::Dynaset &log = m_sistema.armazem.Conjunto(SelLog);
-    const QString index = ProximoIndex(log);
-    log.AddNew();
-    for (const auto &[campo, valor] : MontaLinhaDoLog(cheque, index))
-        log.SetField(campo, valor);
-    log.Update();
 }
 
 } // namespace cheques

@@ -29,7 +29,6 @@ namespace cheques {
 struct Aberturas {
     std::function<void()> pesquisa;            ///< for `TipoPesquisa`
     std::function<void()> camposExtras;        ///< CmpExtra
-    std::function<void()> verso;               ///< the printing of the back
     std::function<void()> relatorio;           ///< Relato
     std::function<void()> prazo;               ///< ChePrz
     std::function<void()> copia;               ///< CmpCopia, after the check of the fields
@@ -55,6 +54,8 @@ public:
     int VerificaCampos();
     /// `Opcoes(0)` and the menu entry of the same name.
     void ImprimeCheque();
+    /// `Opcoes(1)` and the menu entry `Verso`.
+    void ImprimeVerso();
     /// The entry check, then the copy screen.
     void AbreCopia();
     /// Sets `Text1(indice)` as a program does; the Change rule applies. Indices without a field are ignored.
@@ -97,6 +98,8 @@ private:
     [[nodiscard]] std::array<CampoExtra, kCamposExtras> LeCamposExtras() const;
     void ImprimeChequeNormal(int ok, int &resultado);
     void GravaLog(const TextosDoCheque &cheque);
+    void EnviaVerso();
+    void MarcaRotuloDaLinha(int i, bool emUso);
 
     nucleo::Sistema &m_sistema;
     plataforma::Tela &m_tela;

@@ -6,27 +6,9 @@
 #include "plataforma/basico/Numero.h"
 #include "plataforma/basico/Texto.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace cheques {
 
 using namespace plataforma;
-
-namespace {
-constexpr int kUltimaColuna = 120;
-constexpr int kUltimaLinha = 20;
-constexpr double kMaiorInteiro = 32767;
-} // namespace
-
-int PosicaoDaChave(const QString &valor)
-{
-    QString numero = valor;
-    if (!numero.isEmpty() && numero.back() < QLatin1Char('0'))
-        numero.chop(1);
-    const double lido = std::nearbyint(Val(numero));
-    return static_cast<int>(std::clamp(lido, -kMaiorInteiro, kMaiorInteiro));
-}
 
 std::optional<QString> VerificaCamposExtras(const std::array<CampoExtra, kCamposExtras> &campos)
 {

@@ -1,6 +1,7 @@
 // Rules of printing and logging a normal cheque: positions of the extra fields, the six texts, the row.
 #pragma once
 
+#include "cheques/PosicoesExtras.h"
 #include "cheques/RegrasDaEntrada.h"
 #include "device/Impressora.h"
 
@@ -13,18 +14,12 @@
 
 namespace cheques {
 
-inline constexpr int kSemPosicao = -2; ///< a position key that is not in the settings
-
 /// An extra field of the front: its text and its place on the form (line and column from 1).
 struct CampoExtra {
     int linha = kSemPosicao;
     int coluna = kSemPosicao;
     QString texto;
 };
-
-/// The number in a position key; a last character of code below "0" is dropped first. "-2" when it is
-/// missing.
-int PosicaoDaChave(const QString &valor);
 
 /// Judges the filled fields in order; the message of the first one that has no place or does not fit, nothing
 /// when all pass. Empty fields need no place.

@@ -133,11 +133,16 @@ TEST_F(InicioTest, SettingsFileOfRubbishStartsWithTheDefaults)
     EXPECT_TRUE(Controle<QCheckBox>(Tela(), "CheckBox")->isChecked());
 }
 
-TEST_F(InicioTest, SettingsThatCannotBeWrittenAreSilent)
+TEST_F(InicioTest, SettingsThatCannotBeReadAreToldOnceAndNothingIsPurged)
 {
     ASSERT_TRUE(QDir(m_escritorio.Pasta()).mkdir("QX70.INI"));
+    m_escritorio.Sql("INSERT INTO Log (\"Index\", Codigo, Data) VALUES ('0000000001', '00001', '01/01/98')");
+    PoeArquivo("cop0101.98", "x");
     Inicia();
-    EXPECT_EQ(m_caixas.Quantas(), 0U);
+    ASSERT_EQ(m_caixas.Quantas(), 1U) << "the office's own periods are not known";
+    EXPECT_TRUE(m_caixas.Vistas()[0].texto.contains("QX70.INI"));
+    EXPECT_EQ(m_escritorio.Linhas("SELECT * FROM Log").size(), 1);
+    EXPECT_TRUE(QFile::exists(m_escritorio.Arquivo("cop0101.98")));
     EXPECT_TRUE(Tela().isVisible());
     EXPECT_EQ(Dados().PortaSerial, "COM2");
     EXPECT_TRUE(Controle<QCheckBox>(Tela(), "CheckBox")->isChecked());

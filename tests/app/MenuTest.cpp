@@ -113,7 +113,7 @@ TEST_F(MenuTest, OnlyEntriesThatLeadSomewhereAreEnabled)
         if (acao->isEnabled())
             ligadas << nome;
     }
-    EXPECT_EQ(ligadas.join(' '), "Sair Imp_Cheque Topicos Sobre_T");
+    EXPECT_EQ(ligadas.join(' '), "MOpSoft Sair CpoX Imp_Cheque Verso Topicos Sobre_T");
 }
 
 TEST_F(MenuTest, NoEntryTakesAnAcceleratorThatAnotherControlHas)

@@ -1,6 +1,7 @@
 // See ComEntrada.h.
 #include "ComEntrada.h"
 
+#include <QAction>
 #include <QFile>
 #include <QLabel>
 
@@ -45,6 +46,7 @@ ComEntrada::ComEntrada()
 
 void ComEntrada::Abre(const app::ArgumentosLinha &argumentos)
 {
+    m_aplicacao.reset();
     m_aplicacao = std::make_unique<app::Aplicacao>(m_escritorio.Pasta(), m_relogio);
     Tela().IniciaAplicacao(argumentos);
     Ativa();
@@ -57,7 +59,41 @@ void ComEntrada::Abre(const app::ArgumentosLinha &argumentos)
 void ComEntrada::Ativa()
 {
     Tela().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Tela()));
+    // Not qWaitForWindowActive(): to that, a window is active while one that belongs to it is.
+    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &Tela(); }));
+}
+
+QList<QWidget *> ComEntrada::Abertas(const QString &nome)
+{
+    QList<QWidget *> abertas;
+    for (QWidget *tela : Tela().findChildren<QWidget *>(nome))
+        if (tela->isVisible())
+            abertas << tela;
+    return abertas;
+}
+
+QWidget &ComEntrada::Aberta(const QString &nome)
+{
+    const QList<QWidget *> abertas = Abertas(nome);
+    if (abertas.isEmpty())
+        throw std::runtime_error(nome.toStdString() + " is not open");
+    return *abertas.first();
+}
+
+void ComEntrada::AbrePeloMenu(const QString &entrada, const QString &nome)
+{
+    auto *acao = Tela().findChild<QAction *>(entrada);
+    ASSERT_NE(acao, nullptr) << entrada.toStdString();
+    acao->trigger();
+    AtivaTela(nome);
+}
+
+void ComEntrada::AtivaTela(const QString &nome)
+{
+    ASSERT_EQ(Abertas(nome).size(), 1) << nome.toStdString();
+    QWidget &tela = Aberta(nome);
+    tela.activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&tela] { return QApplication::activeWindow() == &tela; }));
 }
 
 std::string ComEntrada::Selecao(const QString &nome)

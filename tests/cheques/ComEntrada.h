@@ -35,11 +35,19 @@ class ComEntrada : public testing::Test {
 protected:
     ComEntrada();
 
-    /// Starts the program; settings and store must stand by then. Boxes and calls of the start are kept
-    /// apart.
+    /// Ends the program, when it runs, and starts it; settings and store must stand by then. Boxes and calls
+    /// of the start are kept apart.
     void Abre(const app::ArgumentosLinha &argumentos = {});
     /// Brings the window to the front again: here nothing does so behind a message box.
     void Ativa();
+    /// Opens a screen by its menu entry and makes it the active window.
+    void AbrePeloMenu(const QString &entrada, const QString &nome);
+    /// Makes the only screen of that name the active window.
+    void AtivaTela(const QString &nome);
+    /// The screens of that name that the operator sees.
+    [[nodiscard]] QList<QWidget *> Abertas(const QString &nome);
+    /// The first of them; the test ends when there is none.
+    [[nodiscard]] QWidget &Aberta(const QString &nome);
     /// Adds lines to the settings file, sections as "[FrenteInfo]\nValor=1,00\n".
     void Ini(const QString &linhas) { m_escritorio.GravaIni(kIni + linhas); }
 

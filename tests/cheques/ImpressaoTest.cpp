@@ -182,6 +182,19 @@ TEST_F(Impressao, CancelPrintsNothingLogsNothingAndSaysNothing)
     EXPECT_EQ(Foco(), "Text1(0)");
 }
 
+// What was handed over while the box stood is for the next cheque.
+TEST_F(Impressao, PayeeHandedOverMeanwhileIsKeptAndNotPrinted)
+{
+    AbrePreenchido();
+    Poe("Text1(2)", "");
+    m_caixas->AoAbrir([this](QMessageBox &) { Tela().Recebe({{2, "Ana"}}); });
+    Imprime();
+    ASSERT_EQ(m_gravadora.Chamadas().size(), 3);
+    EXPECT_TRUE(m_gravadora.Chamadas()[1].contains(R"(,".",)")) << m_gravadora.Chamadas()[1].toStdString();
+    EXPECT_EQ(Log()[0][4], ".");
+    EXPECT_EQ(Texto("Text1(2)"), "Ana");
+}
+
 TEST_F(Impressao, PortThatDoesNotOpenIsNotTested)
 {
     m_gravadora.Roteiro("resultado IniciaPorta 0\nresultado FechaPorta 0\n");

@@ -10,6 +10,7 @@ enum Saida : int {
     kFeito = 0,      ///< done
     kFalhou = 1,     ///< refused or failed; nothing was changed
     kMalChamado = 2, ///< the call itself is wrong
+    kDefeitos = 3,   ///< the check ran and found defects
 };
 
 /// Makes an empty store. Never overwrites one.
@@ -19,5 +20,14 @@ int Cria(const QStringList &argumentos);
 /// Fills the empty tables of a store with invented data and writes the banks' layouts into QX70.INI.
 /// @throws RuntimeError 3024, 3050, 3051, 3078, 3343 when the store cannot take them; then nothing is changed
 int Semeia(const QStringList &argumentos);
+
+/// Looks the store over, and the banks' layouts in QX70.INI, and tells what is wrong; changes nothing.
+/// @throws RuntimeError 3024, 3050, 3051 when it cannot be looked at
+int Confere(const QStringList &argumentos);
+
+/// Copies the store and QX70.INI into another folder while the program may be writing. Never overwrites a
+/// file.
+/// @throws RuntimeError 3024, 3050, 3051, 3343; then nothing is in the other folder
+int Copia(const QStringList &argumentos);
 
 } // namespace banco

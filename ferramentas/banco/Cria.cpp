@@ -3,17 +3,13 @@
 #include "Console.h"
 #include "Esquema.h"
 #include "Loja.h"
+#include "Publicacao.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <fcntl.h>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <SQLiteCpp/SQLiteCpp.h>
-#include <unistd.h>
 
 namespace banco {
 
@@ -31,39 +27,6 @@ QString DestinoDe(const QString &argumento)
         throw RuntimeError(ErrOpen, QStringLiteral("A pasta %1 não existe. Crie-a primeiro.").arg(argumento));
     const QFileInfo info(argumento);
     return ArquivoNaPasta(info.path(), info.fileName());
-}
-
-RuntimeError ErroDeExistente(const QString &destino)
-{
-    return {ErrOpen,
-            QStringLiteral("O arquivo %1 já existe e não foi tocado. Para começar outro, mude o nome "
-                           "dele ou escolha outra pasta.")
-                .arg(destino)};
-}
-
-void SincronizaPasta(const QString &pasta)
-{
-    const int fd = ::open(QFile::encodeName(pasta).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0)
-        return;
-    ::fsync(fd);
-    ::close(fd);
-}
-
-// Gives the finished file its name, only when the name is free. Where a file system cannot rename so, a
-// second link does the same.
-void PublicaSemSobrescrever(const QString &pronto, const QString &destino)
-{
-    const QByteArray de = QFile::encodeName(pronto);
-    const QByteArray para = QFile::encodeName(destino);
-    if (::renameat2(AT_FDCWD, de.constData(), AT_FDCWD, para.constData(), RENAME_NOREPLACE) == 0)
-        return;
-    if (errno != EEXIST && ::link(de.constData(), para.constData()) == 0)
-        return;
-    if (errno == EEXIST)
-        throw ErroDeExistente(destino);
-    throw RuntimeError(ErrOpen, QStringLiteral("Não foi possível criar %1: %2.")
-                                    .arg(destino, QString::fromLocal8Bit(std::strerror(errno))));
 }
 
 void CriaLoja(const QString &destino)
@@ -99,6 +62,7 @@ int Cria(const QStringList &argumentos)
     const QFileInfo info(destino);
     if (info.exists() || info.isSymLink())
         throw ErroDeExistente(destino);
+    ExigeSemDiario(destino);
     CriaLoja(destino);
     Diz(QStringLiteral("Criado: %1").arg(destino));
     return kFeito;

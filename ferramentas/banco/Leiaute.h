@@ -3,6 +3,7 @@
 
 #include <array>
 #include <QString>
+#include <QStringList>
 #include <string>
 
 namespace banco {
@@ -17,5 +18,18 @@ std::string CampoDoLeiaute(int numero);
 /// The value of the bank's key in section Formato: numbers below 100 with two digits, from 100 on with three,
 /// and behind them the first 20 characters of the name as a comment.
 QString TextoDoFormato(const Leiaute &leiaute, const QString &nome);
+
+/// A layout as QX70.INI holds it, taken apart.
+struct TextoDoLeiaute {
+    QStringList numeros; ///< as they stand
+    QString nome;        ///< without blanks at its end
+};
+
+/// The reverse of TextoDoFormato: as many numbers as there are before the ";".
+TextoDoLeiaute LeFormato(const QString &texto);
+
+/// A value of section ChequeTransf, read by position: fourteen numbers of three digits, each in the first
+/// three of four characters, and the name from character 62 on. No numbers when one of them is not there.
+TextoDoLeiaute LeChequeTransf(const QString &texto);
 
 } // namespace banco

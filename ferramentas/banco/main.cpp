@@ -1,4 +1,4 @@
-// qx70-banco: creates the store QX70.MDB and fills it with invented data.
+// qx70-banco: creates the store QX70.MDB, fills it with invented data, checks it and copies it.
 #include "Comandos.h"
 #include "Console.h"
 #include "plataforma/basico/RuntimeError.h"
@@ -28,9 +28,18 @@ Comandos:
       --semente S       número que escolhe os dados: com o mesmo número saem os mesmos (1)
       --hoje dd/mm/aa   data do último cheque (a data da máquina)
 
+  confere PASTA [--tudo]
+      Confere o banco de dados da pasta e as posições dos bancos no QX70.INI, e diz o que está errado e onde.
+      Não conserta nada. De cada tipo de defeito mostra os 20 primeiros; com --tudo, todos.
+
+  copia PASTA DESTINO
+      Copia QX70.MDB e QX70.INI para outra pasta, que é criada se não existe, mesmo com o programa aberto. Confere a
+      cópia antes de lhe dar o nome. Nunca grava por cima de um arquivo que já existe. Os arquivos de cópia dos
+      cheques (cop*.*), as imagens e a configuração da porta não são copiados.
+
   --ajuda               mostra este texto
 
-Resultado: 0 feito; 1 recusado ou falhou, e nada mudou; 2 chamada errada.
+Resultado: 0 feito; 1 recusado ou falhou, e nada mudou; 2 chamada errada; 3 "confere" achou defeitos.
 )";
 
 struct Comando {
@@ -38,7 +47,8 @@ struct Comando {
     int (*executa)(const QStringList &);
 };
 
-constexpr std::array kComandos{Comando{"cria", banco::Cria}, Comando{"semeia", banco::Semeia}};
+constexpr std::array kComandos{Comando{"cria", banco::Cria}, Comando{"semeia", banco::Semeia},
+                               Comando{"confere", banco::Confere}, Comando{"copia", banco::Copia}};
 
 int Executa(const QStringList &argumentos)
 {

@@ -30,4 +30,14 @@ int Confere(const QStringList &argumentos);
 /// @throws RuntimeError 3024, 3050, 3051, 3343; then nothing is in the other folder
 int Copia(const QStringList &argumentos);
 
+/// Writes the tables of a store into CSV files of a folder, all of them or none.
+/// @throws RuntimeError 3024, 3050, 3051, 3078, 3343 when they cannot be read or written; then nothing is
+/// there
+int Exporta(const QStringList &argumentos);
+
+/// Adds the rows of CSV files to the tables of a store: all lines of all files or none.
+/// @throws RuntimeError 3024, 3050, 3051, 3078, 3343 when a file cannot be read or the store cannot take
+/// them; then nothing is changed
+int Importa(const QStringList &argumentos);
+
 } // namespace banco

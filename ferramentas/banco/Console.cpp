@@ -26,6 +26,12 @@ int ReclamaDaChamada(const QString &motivo)
     return kMalChamado;
 }
 
+QString ContaDeLinhas(const QString &oQue, qint64 linhas)
+{
+    const QString nome = linhas == 1 ? QStringLiteral("linha") : QStringLiteral("linhas");
+    return QStringLiteral("%1: %2 %3").arg(oQue, QString::number(linhas), nome);
+}
+
 Progresso::Progresso(QString oQue, qint64 total)
     : m_oQue(std::move(oQue)), m_total(total), m_terminal(::isatty(STDERR_FILENO) == 1)
 {

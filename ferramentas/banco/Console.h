@@ -11,6 +11,9 @@ void Reclama(const QString &linha);
 /// Complains about the call and points to --ajuda. @return the exit code of a bad call
 int ReclamaDaChamada(const QString &motivo);
 
+/// "Log: 1234 linhas"
+QString ContaDeLinhas(const QString &oQue, qint64 linhas);
+
 /// The progress of long work. On a terminal one line that is written over, from the first second on;
 /// elsewhere a line at every tenth, for work of at least kPassosLongo steps.
 class Progresso {

@@ -3,18 +3,11 @@
 #include "Comandos.h"
 #include "Console.h"
 #include "Esquema.h"
+#include "IniNovo.h"
 #include "Inventado.h"
 #include "Loja.h"
 #include "Opcoes.h"
-#include "plataforma/perfil/ProfileFile.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace banco {
@@ -53,56 +46,14 @@ private:
     int m_campo = 0;
 };
 
-/// QX70.INI as it will be: a copy beside it, which takes its place once the store is safe.
-class IniNovo {
-public:
-    explicit IniNovo(const QString &pasta)
-        : m_destino(ArquivoNaPasta(pasta, QLatin1String(kNomeDoIni))),
-          m_oficina(QDir(pasta).filePath(QStringLiteral(".qx70-banco-XXXXXX"))),
-          m_novo(m_oficina.filePath(QLatin1String(kNomeDoIni)))
-    {
-        if (!m_oficina.isValid() || !PodeSerTrocado() || !CopiaOAtual())
-            throw Erro();
-    }
-    void EscreveFormato(const std::vector<BancoInventado> &bancos)
-    {
-        const plataforma::ProfileFile perfil(m_novo);
-        Progresso progresso(QStringLiteral("Bancos"), std::ssize(bancos));
-        qint64 feitos = 0;
-        for (const BancoInventado &banco : bancos) {
-            if (!perfil.WritePrivateProfileString(QStringLiteral("Formato"),
-                                                  QString::fromStdString(banco.codigo),
-                                                  TextoDoFormato(banco.leiaute, banco.nome)))
-                throw Erro();
-            progresso.Mostra(++feitos);
-        }
-    }
-    void TomaOLugar()
-    {
-        const QByteArray de = QFile::encodeName(m_novo);
-        if (QFileInfo::exists(m_novo) &&
-            std::rename(de.constData(), QFile::encodeName(m_destino).constData()) != 0)
-            throw Erro();
-    }
-
-private:
-    bool PodeSerTrocado() const
-    {
-        const QFileInfo atual(m_destino);
-        return !atual.exists() || (atual.isFile() && atual.isWritable());
-    }
-    bool CopiaOAtual() const { return !QFileInfo::exists(m_destino) || QFile::copy(m_destino, m_novo); }
-    RuntimeError Erro() const
-    {
-        return {ErrOpen,
-                QStringLiteral("O arquivo %1 não pode ser gravado. Verifique o disco e as permissões.")
-                    .arg(m_destino)};
-    }
-
-    QString m_destino;
-    QTemporaryDir m_oficina;
-    QString m_novo;
-};
+std::vector<ChaveDoFormato> ChavesDe(const std::vector<BancoInventado> &bancos)
+{
+    std::vector<ChaveDoFormato> chaves;
+    chaves.reserve(bancos.size());
+    for (const BancoInventado &banco : bancos)
+        chaves.push_back({QString::fromStdString(banco.codigo), TextoDoFormato(banco.leiaute, banco.nome)});
+    return chaves;
+}
 
 void ExigeVazia(SQLite::Database &loja, std::string_view tabela, qint64 aGravar, const QString &caminho)
 {
@@ -186,13 +137,14 @@ void GravaTudo(const OpcoesDeSemeia &opcoes, const QString &caminho)
     ExigeVazia(*loja, "Log", opcoes.cheques, caminho);
 
     IniNovo ini(opcoes.pasta);
-    ini.EscreveFormato(bancos);
+    ini.EscreveFormato(ChavesDe(bancos));
     GravaBancos(*loja, bancos);
     GravaCodigosENomes(*loja, "Cidade", InventaCidades(opcoes.cidades, semente));
     GravaCodigosENomes(*loja, "Favorecido", InventaFavorecidos(opcoes.favorecidos, semente));
     GravaCheques(*loja, opcoes);
-    transacao.commit();
     ini.TomaOLugar();
+    transacao.commit();
+    ini.Mantem();
 }
 
 } // namespace

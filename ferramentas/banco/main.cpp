@@ -1,4 +1,5 @@
-// qx70-banco: creates the store QX70.MDB, fills it with invented data, checks it and copies it.
+// qx70-banco: creates the store QX70.MDB, fills it, checks it, copies it, and exchanges its tables with CSV
+// files.
 #include "Comandos.h"
 #include "Console.h"
 #include "plataforma/basico/RuntimeError.h"
@@ -37,6 +38,21 @@ Comandos:
       cópia antes de lhe dar o nome. Nunca grava por cima de um arquivo que já existe. Os arquivos de cópia dos
       cheques (cop*.*), as imagens e a configuração da porta não são copiados.
 
+  exporta PASTA DESTINO [opções]
+      Grava cada tabela do banco de dados num arquivo CSV da pasta DESTINO, para abrir numa planilha. Cria a
+      pasta que falta; nunca grava por cima de um arquivo que já existe.
+      --tabela NOME     só essa tabela; pode ser repetida (todas)
+      --separador S     entre os campos: ";", "," ou tab (";")
+      --codificacao C   windows-1252 ou utf-8 (windows-1252)
+
+  importa PASTA ARQUIVO.csv...|PASTA_DE_CSV [opções]
+      Acrescenta ao banco de dados as linhas dos arquivos CSV, cada um com o nome da sua tabela: todas ou, se
+      alguma estiver errada, nenhuma. A primeira linha de cada arquivo tem os nomes dos campos. Feche antes o QX70.
+      --tabela NOME     a tabela, quando o nome do arquivo não a diz (com um arquivo só)
+      --separador S     ";", "," ou tab (o da primeira linha)
+      --codificacao C   windows-1252 ou utf-8 (a que o arquivo mostra)
+      --formato         escreve as posições dos bancos importados na seção Formato do QX70.INI
+
   --ajuda               mostra este texto
 
 Resultado: 0 feito; 1 recusado ou falhou, e nada mudou; 2 chamada errada; 3 "confere" achou defeitos.
@@ -47,8 +63,9 @@ struct Comando {
     int (*executa)(const QStringList &);
 };
 
-constexpr std::array kComandos{Comando{"cria", banco::Cria}, Comando{"semeia", banco::Semeia},
-                               Comando{"confere", banco::Confere}, Comando{"copia", banco::Copia}};
+constexpr std::array kComandos{Comando{"cria", banco::Cria},       Comando{"semeia", banco::Semeia},
+                               Comando{"confere", banco::Confere}, Comando{"copia", banco::Copia},
+                               Comando{"exporta", banco::Exporta}, Comando{"importa", banco::Importa}};
 
 int Executa(const QStringList &argumentos)
 {

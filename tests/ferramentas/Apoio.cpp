@@ -113,3 +113,8 @@ std::string Escritorio::Conteudo() const
     }
     return tudo;
 }
+
+void Executa(const Escritorio &escritorio, const std::string &sql)
+{
+    SQLite::Database(escritorio.Loja().toStdString(), SQLite::OPEN_READWRITE).exec(sql);
+}

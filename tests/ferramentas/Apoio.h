@@ -9,6 +9,16 @@
 #include <string>
 #include <vector>
 
+/// A text of the source, and the words of one.
+inline QString Q(const char *texto)
+{
+    return QString::fromUtf8(texto);
+}
+inline QStringList Opcoes(const char *palavras)
+{
+    return Q(palavras).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
 struct Execucao {
     int codigo = -1; ///< exit code, -1 when the program did not start, crashed or did not end in time
     QString saida;
@@ -49,3 +59,6 @@ public:
 private:
     QTemporaryDir m_pasta;
 };
+
+/// Runs statements on the store of a folder.
+void Executa(const Escritorio &escritorio, const std::string &sql);

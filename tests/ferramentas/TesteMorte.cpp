@@ -202,6 +202,16 @@ void JulgaSemeia(const Mesa &mesa)
     EXPECT_EQ(LeArquivo(mesa.Pasta(kIni)), LeArquivo(mesa.Base(kIni)));
 }
 
+// The cheques lie beside the store as a file, from an office of the same registers.
+void PreparaImportacao(const Mesa &mesa)
+{
+    PreparaRegistros(mesa);
+    const QTemporaryDir antiga;
+    Exige({QStringLiteral("cria"), antiga.path()});
+    Exige({QStringLiteral("semeia"), antiga.path(), "--cheques", QString::number(kCheques)});
+    Exige({QStringLiteral("exporta"), antiga.path(), mesa.Base(), "--tabela", "Log"});
+}
+
 void JulgaCria(const Mesa &mesa)
 {
     if (!QFile::exists(mesa.Pasta(kLoja)))
@@ -253,23 +263,29 @@ void JulgaConfere(const Mesa &mesa)
     EXPECT_EQ(NomesEm(mesa.Pasta()), (QStringList{kIni, kLoja}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Comandos, MorteTest,
-                         testing::Values(Comando{"semeia", 90, PreparaRegistros, ChamaSemeia, JulgaSemeia},
-                                         Comando{"cria", 60, [](const Mesa &) {},
-                                                 [](const Mesa &mesa) {
-                                                     return QStringList{"cria", mesa.Pasta()};
-                                                 },
-                                                 JulgaCria},
-                                         Comando{"copia", 60, PreparaCheques,
-                                                 [](const Mesa &mesa) {
-                                                     return QStringList{"copia", mesa.Pasta(), mesa.Copia()};
-                                                 },
-                                                 JulgaCopia},
-                                         Comando{"confere", 30, PreparaMetade,
-                                                 [](const Mesa &mesa) {
-                                                     return QStringList{"confere", mesa.Pasta()};
-                                                 },
-                                                 JulgaConfere}),
-                         [](const auto &caso) { return caso.param.nome; });
+INSTANTIATE_TEST_SUITE_P(
+    Comandos, MorteTest,
+    testing::Values(Comando{"semeia", 90, PreparaRegistros, ChamaSemeia, JulgaSemeia},
+                    Comando{"importa", 30, PreparaImportacao,
+                            [](const Mesa &mesa) {
+                                return QStringList{"importa", mesa.Pasta(), mesa.Pasta("Log.csv")};
+                            },
+                            JulgaSemeia},
+                    Comando{"cria", 60, [](const Mesa &) {},
+                            [](const Mesa &mesa) {
+                                return QStringList{"cria", mesa.Pasta()};
+                            },
+                            JulgaCria},
+                    Comando{"copia", 60, PreparaCheques,
+                            [](const Mesa &mesa) {
+                                return QStringList{"copia", mesa.Pasta(), mesa.Copia()};
+                            },
+                            JulgaCopia},
+                    Comando{"confere", 30, PreparaMetade,
+                            [](const Mesa &mesa) {
+                                return QStringList{"confere", mesa.Pasta()};
+                            },
+                            JulgaConfere}),
+    [](const auto &caso) { return caso.param.nome; });
 
 } // namespace

@@ -7,6 +7,9 @@
 #include "plataforma/tela/Tela.h"
 
 #include <cstdio>
+#include <functional>
+#include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
@@ -51,6 +54,27 @@ void Preenche(app::Main &tela)
     tela.Caminha(tela.findChild<QWidget *>(QStringLiteral("Text1(1)")));
 }
 
+// Opens a screen by its menu entry and draws it. @param prepara what the clerk does in it first
+bool Desenha(app::Main &main, const QString &entrada, const QString &nome, const QString &arquivo,
+             const std::function<void(QWidget &)> &prepara)
+{
+    main.findChild<QAction *>(entrada)->trigger();
+    QCoreApplication::processEvents();
+    auto *tela = main.findChild<QWidget *>(nome);
+    prepara(*tela);
+    QCoreApplication::processEvents();
+    const bool gravou = tela->grab().save(arquivo);
+    tela->close();
+    return gravou;
+}
+
+void PreencheCmpExtra(QWidget &tela)
+{
+    tela.findChild<QAbstractButton *>(QStringLiteral("CmdNumCampo(0)"))->click();
+    tela.findChild<QLineEdit *>(QStringLiteral("PosText(0)"))->setText(QStringLiteral("2"));
+    tela.findChild<QLineEdit *>(QStringLiteral("PosText(1)"))->setText(QStringLiteral("40"));
+}
+
 } // namespace
 
 int main(int quantos, char **argumentos)
@@ -80,6 +104,14 @@ int main(int quantos, char **argumentos)
     Preenche(tela);
     QCoreApplication::processEvents();
     bool gravou = tela.grab().save(destino.filePath(QStringLiteral("main-%1-%2.png").arg(tom, escala)));
+    const auto arquivo = [&](const QString &nome) {
+        return destino.filePath(QStringLiteral("%1-%2-%3.png").arg(nome, tom, escala));
+    };
+    gravou = Desenha(tela, QStringLiteral("CpoX"), QStringLiteral("CmpExtra"),
+                     arquivo(QStringLiteral("cmpextra")), PreencheCmpExtra) &&
+             Desenha(tela, QStringLiteral("MOpSoft"), QStringLiteral("OpSoft"),
+                     arquivo(QStringLiteral("opsoft")), [](QWidget &) {}) &&
+             gravou;
     app::Ajuda ajuda;
     ajuda.Mostra(QStringLiteral("Teclas"));
     ajuda.show();

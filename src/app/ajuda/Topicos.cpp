@@ -16,6 +16,7 @@ const QList<Topico> &Topicos()
         {QStringLiteral("Teclas"), QStringLiteral("Teclas")},
         {QStringLiteral("Configuracao"), QStringLiteral("Configuração e opções")},
         {QStringLiteral("Simulador"), QStringLiteral("Simulador")},
+        {QStringLiteral("Dados"), QStringLiteral("Cuidar dos dados")},
         {QStringLiteral("Problemas"), QStringLiteral("Problemas e soluções")},
     };
     return topicos;

@@ -34,7 +34,6 @@ namespace {
 
 const QString kTitulo = QStringLiteral("QX70 - Mira Document Printer");
 const QString kSistemaIni = QStringLiteral("Sistema");
-const QString kOpcoes = QStringLiteral("Opcoes");
 constexpr int kPrimeiroIntervalo = 2500; // ms
 constexpr int kIntervalo = 10000;        // ms
 // A screen under 9601 twips, at 15 twips a point of 96 to the inch.
@@ -61,7 +60,7 @@ Main::~Main() = default;
 void Main::MontaControles()
 {
     cheques::Aberturas aberturas;
-    aberturas.camposExtras = [this] { Abre(m_cmpExtra); };
+    aberturas.camposExtras = [this] { AbreAoLado(m_cmpExtra); };
     aberturas.dica = [this](const QString &texto) { m_panel3D2->setText(texto); };
     m_entrada = new cheques::EntradaCheque(m_sistema, *this, aberturas);
     m_image1 = new QLabel;
@@ -124,7 +123,7 @@ void Main::MontaMenu()
     arquivo->menuAction()->setObjectName(QStringLiteral("arq"));
     Entra(arquivo, QStringLiteral("Conf_Qx70"), QStringLiteral("C&onfigurações"));
     Entra(arquivo, QStringLiteral("MOpSoft"), QStringLiteral("Opções do Sof&tware"),
-          [this] { Abre(m_opSoft); });
+          [this] { AbreAoLado(m_opSoft); });
     Entra(arquivo, QStringLiteral("Sair"), QStringLiteral("&Sair"), [this] { close(); });
 
     QMenu *cadastro = m_menu->addMenu(QStringLiteral("&Cadastro"));
@@ -135,7 +134,8 @@ void Main::MontaMenu()
           QStringLiteral("Para Impressão de Cheque &Transferência"));
     Entra(cadastro, QStringLiteral("Favor"), QStringLiteral("&Favorecidos"));
     Entra(cadastro, QStringLiteral("Cidad"), QStringLiteral("&Cidades"));
-    Entra(cadastro, QStringLiteral("CpoX"), QStringLiteral("Campo &Extra"), [this] { Abre(m_cmpExtra); });
+    Entra(cadastro, QStringLiteral("CpoX"), QStringLiteral("Campo &Extra"),
+          [this] { AbreAoLado(m_cmpExtra); });
     Entra(cadastro, QStringLiteral("Layout"), QStringLiteral("&Layout de Cópia"));
 
     QMenu *impressao = m_menu->addMenu(QStringLiteral("&Impressão"));
@@ -176,8 +176,8 @@ void Main::IniciaAplicacao(ArgumentosLinha argumentos)
         m_entrada->SelecionaFormaDaData(OpcaoNumerica(m_sistema.ini, QStringLiteral("ConfiguraData"), 0));
     });
     m_sistema.FechaTela = 0;
-    m_sistema.NumCObrig = OpcaoNumerica(m_sistema.ini, QStringLiteral("NumCObrig"), 1);
-    m_sistema.NumChkPgRel = OpcaoNumerica(m_sistema.ini, QStringLiteral("NumChkPgRel"), 55);
+    CarregaOpcao(m_sistema, kNumCObrig);
+    CarregaOpcao(m_sistema, kNumChkPgRel);
     TransfereArgumentos(argumentos);
     // The office's own periods cannot be known then: nothing is offered for deletion.
     if (!AvisaFalhaDaInstalacao(m_sistema)) {
@@ -203,9 +203,8 @@ void Main::CarregaOpcoes()
     static_cast<void>(ini.GravaIni(kOpcoes, QStringLiteral("UsaData")));
     m_sistema.PortaSerial = CarregaPorta(ini);
     m_label4->setText(m_sistema.PortaSerial);
-    m_sistema.PeriodoRelExc = OpcaoNumerica(ini, QStringLiteral("PeriodoRelExc"), 30);
-    m_sistema.PeriodoCopExc = OpcaoNumerica(ini, QStringLiteral("PeriodoCopExc"), 30);
-    m_sistema.UsarImpInv = OpcaoNumerica(ini, QStringLiteral("UsarImpInv"), 1);
+    for (const Opcao &opcao : {kPeriodoRelExc, kPeriodoCopExc, kUsarImpInv})
+        CarregaOpcao(m_sistema, opcao);
     m_sistema.DataHoje = DataDeHoje(m_sistema.relogio);
     m_sistema.MesAnoHoje = plataforma::Mid(m_sistema.DataHoje, 3, 4);
 }
@@ -285,11 +284,16 @@ void Main::ConfiguraInicial()
 }
 
 // A screen opens beside the main one, which stays live; one that is open comes to the front.
-template <class T> void Main::Abre(QPointer<T> &tela)
+template <class T> void Main::AbreAoLado(QPointer<T> &tela)
+{
+    Abre(tela, [this] { return new T(m_sistema, this); });
+}
+
+template <class T, class F> void Main::Abre(QPointer<T> &tela, F cria)
 {
     if (!tela || !tela->isVisible()) {
         delete tela; // one that was closed and is about to go
-        tela = new T(m_sistema, this);
+        tela = cria();
     }
     tela->show();
     tela->raise();
@@ -306,11 +310,7 @@ void Main::AbreSobre()
     // While the program starts, the box stands already, as the splash; the timer takes it away.
     if (m_estadoAbertura != 0)
         return;
-    if (!m_sobre)
-        m_sobre = new Sobre(windowTitle(), false, m_sistema.mensagens, this);
-    m_sobre->show();
-    m_sobre->raise();
-    m_sobre->activateWindow();
+    Abre(m_sobre, [this] { return new Sobre(windowTitle(), false, m_sistema.mensagens, this); });
 }
 
 // Gauge

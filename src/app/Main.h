@@ -67,7 +67,8 @@ private:
     void Timer1();
     void MostraLogo(const QString &nomeNoDisco, const QString &procurado);
     void ConfiguraInicial();
-    template <class T> void Abre(QPointer<T> &tela);
+    template <class T> void AbreAoLado(QPointer<T> &tela);
+    template <class T, class F> void Abre(QPointer<T> &tela, F cria);
     void MostraAjuda(const QString &topico);
     void AbreSobre();
     void GravaInRel();

@@ -5,6 +5,7 @@
 #include "nucleo/Sistema.h"
 #include "plataforma/basico/Numero.h"
 #include "plataforma/tela/CampoTexto.h"
+#include "plataforma/tela/Formulario.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -17,11 +18,14 @@
 
 namespace cheques {
 
+using plataforma::kEspaco;
+using plataforma::kMargem;
+using plataforma::LarguraPara;
+using plataforma::Rotulo;
+
 namespace {
 
-const QString kErro = QStringLiteral("Erro");
-constexpr int kMargem = 12;
-constexpr int kEspaco = 8;
+constexpr int kAlgarismosVisiveis = 6;
 // The gap at 1 is as old as the screen.
 constexpr int kSalvar = 0;
 constexpr int kFechar = 2;
@@ -31,10 +35,7 @@ constexpr int kFechar = 2;
 CmpExtra::CmpExtra(nucleo::Sistema &sistema, QWidget *pai)
     : Tela(QStringLiteral("CmpExtra"), sistema.mensagens, pai), m_sistema(sistema)
 {
-    setWindowFlags(Qt::Dialog);
-    setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("Programa Campo"));
-    FechaComEsc(true);
+    FicaAoLado(QStringLiteral("Programa Campo"));
     MontaControles();
     CentraNaTela();
     for (int n = 0; n < kCamposExtras; ++n)
@@ -51,7 +52,7 @@ void CmpExtra::MontaControles()
     tudo->setContentsMargins(kMargem, kMargem, kMargem, kMargem);
     tudo->setSpacing(kMargem);
     tudo->addLayout(quadros, 1);
-    tudo->addWidget(MontaComandos());
+    tudo->addLayout(MontaComandos());
 }
 
 QWidget *CmpExtra::MontaNumero()
@@ -77,14 +78,12 @@ QWidget *CmpExtra::MontaPosicao()
     grade->setHorizontalSpacing(kEspaco);
     grade->setVerticalSpacing(kEspaco);
     for (const int lado : {LadoLinha, LadoColuna}) {
-        auto *rotulo = new QLabel(lado == LadoLinha ? QStringLiteral("Linha:") : QStringLiteral("Coluna:"));
-        rotulo->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         auto *campo = new QLineEdit;
         m_posText.Poe(lado, campo);
-        campo->setAccessibleName(rotulo->text());
         campo->setAlignment(Qt::AlignRight);
-        campo->setFixedWidth(campo->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 18);
-        grade->addWidget(rotulo, lado, 0);
+        campo->setFixedWidth(LarguraPara(campo, kAlgarismosVisiveis));
+        grade->addWidget(
+            Rotulo(lado == LadoLinha ? QStringLiteral("Linha:") : QStringLiteral("Coluna:"), campo), lado, 0);
         grade->addWidget(campo, lado, 1);
         plataforma::Regras regras;
         regras.chega = [campo] { campo->selectAll(); };
@@ -99,22 +98,15 @@ QWidget *CmpExtra::MontaPosicao()
     return quadro;
 }
 
-QWidget *CmpExtra::MontaComandos()
+QLayout *CmpExtra::MontaComandos()
 {
-    auto *linha = new QWidget(this);
-    auto *caixa = new QHBoxLayout(linha);
-    caixa->setContentsMargins(0, 0, 0, 0);
-    caixa->setSpacing(kEspaco);
-    caixa->addStretch(1);
-    m_btnCmd.Poe(kSalvar, new QPushButton(QStringLiteral("Salvar")));
-    m_btnCmd.Poe(kFechar, new QPushButton(QStringLiteral("Fechar")));
-    for (const auto &[indice, botao] : m_btnCmd) {
-        caixa->addWidget(botao);
+    m_btnCmd.Poe(kSalvar, new QPushButton(QStringLiteral("Salvar"), this));
+    m_btnCmd.Poe(kFechar, new QPushButton(QStringLiteral("Fechar"), this));
+    for (const auto &[indice, botao] : m_btnCmd)
         Registra(botao);
-    }
     connect(m_btnCmd(kSalvar), &QPushButton::clicked, this, [this] { Guarda([this] { Salva(); }); });
     connect(m_btnCmd(kFechar), &QPushButton::clicked, this, &CmpExtra::close);
-    return linha;
+    return LinhaDeBotoes(m_btnCmd);
 }
 
 void CmpExtra::MostraCampo(int n)
@@ -130,8 +122,8 @@ void CmpExtra::MudaPosicao(int lado)
     plataforma::DeixaSoDigitos(campo);
     if (const auto cortada = CortaPosicao(lado, campo->text())) {
         campo->setText(*cortada);
-        m_sistema.mensagens.MsgBox(QStringLiteral("Tamanho Máximo deste campo..."), nucleo::Botoes::Ok,
-                                   nucleo::Icone::Exclamacao, kErro);
+        m_sistema.mensagens.MsgBox(nucleo::kTamanhoMaximo, nucleo::Botoes::Ok, nucleo::Icone::Exclamacao,
+                                   nucleo::kErro);
     }
 }
 
@@ -151,7 +143,7 @@ void CmpExtra::Salva()
     const QString coluna = m_posText(LadoColuna)->text();
     if (!PosicaoAceita(linha, coluna)) {
         m_sistema.mensagens.MsgBox(QStringLiteral("Campo incorreto"), nucleo::Botoes::Ok,
-                                   nucleo::Icone::Exclamacao, kErro);
+                                   nucleo::Icone::Exclamacao, nucleo::kErro);
         return;
     }
     const int n = CampoSelecionado();

@@ -7,6 +7,7 @@
 
 #include <array>
 
+class QLayout;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -26,7 +27,7 @@ private:
     void MontaControles();
     QWidget *MontaNumero();
     QWidget *MontaPosicao();
-    QWidget *MontaComandos();
+    QLayout *MontaComandos();
     void MostraCampo(int n);
     void MudaPosicao(int lado);
     void Salva();

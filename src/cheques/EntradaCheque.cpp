@@ -23,8 +23,6 @@ using namespace nucleo;
 
 namespace {
 
-const QString kTamanhoMaximo = QStringLiteral("Tamanho Máximo deste campo...");
-const QString kErro = QStringLiteral("Erro");
 constexpr int kNomeDoBanco = 6; // Label1
 
 } // namespace
@@ -259,8 +257,7 @@ void EntradaCheque::EscolheFormaDaData(int digitos)
         const Espera espera(m_sistema.ocupado);
         device::EnviaDigitosDoAno(digitos, m_sistema.PortaSerial, m_sistema.impressora);
     }
-    m_sistema.ini.GravaIni(QStringLiteral("Opcoes"), QStringLiteral("ConfiguraData"),
-                           QString::number(digitos));
+    m_sistema.ini.GravaIni(kOpcoes, QStringLiteral("ConfiguraData"), QString::number(digitos));
 }
 
 // What others call

@@ -2,6 +2,7 @@
 #include "cheques/EntradaCheque.h"
 
 #include "plataforma/tela/CampoTexto.h"
+#include "plataforma/tela/Formulario.h"
 
 #include <QCheckBox>
 #include <QFontDatabase>
@@ -16,21 +17,17 @@
 namespace cheques {
 
 using plataforma::CampoTexto;
+using plataforma::kEspaco;
+using plataforma::LarguraPara;
+using plataforma::Rotulo;
 
 namespace {
 
-constexpr int kEspaco = 8;
 constexpr int kEntreLinhas = 3;
 
 QFont FonteFixa()
 {
     return QFontDatabase::systemFont(QFontDatabase::FixedFont);
-}
-
-// The width in which `n` characters of the box's own font can be read whole.
-int Largura(const QLineEdit *campo, int n)
-{
-    return campo->fontMetrics().horizontalAdvance(QString(n, QLatin1Char('0'))) + 18;
 }
 
 // The first column of labels is as wide in every block, so that the boxes stand under one another.
@@ -39,15 +36,6 @@ void AlinhaPrimeiraColuna(QGridLayout *grade)
     const QLabel modelo;
     grade->setColumnMinimumWidth(0,
                                  modelo.fontMetrics().horizontalAdvance(QStringLiteral("Favorecido:")) + 2);
-}
-
-QLabel *Rotulo(const QString &texto, QWidget *controle)
-{
-    auto *rotulo = new QLabel(texto);
-    rotulo->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    rotulo->setTextFormat(Qt::PlainText);
-    controle->setAccessibleName(texto);
-    return rotulo;
 }
 
 } // namespace
@@ -91,11 +79,11 @@ QWidget *EntradaCheque::MontaDadosDoCheque()
     banco->addWidget(titulo);
     banco->addWidget(m_label1(6));
 
-    m_text1(CampoBanco)->setFixedWidth(Largura(m_text1(CampoBanco), 4));
+    m_text1(CampoBanco)->setFixedWidth(LarguraPara(m_text1(CampoBanco), 4));
     m_text1(CampoValor)->setAlignment(Qt::AlignRight);
-    m_text1(CampoValor)->setFixedWidth(Largura(m_text1(CampoValor), 16));
-    m_text1(CampoData)->setFixedWidth(Largura(m_text1(CampoData), 10));
-    m_text1(CampoNumero)->setFixedWidth(Largura(m_text1(CampoNumero), 16));
+    m_text1(CampoValor)->setFixedWidth(LarguraPara(m_text1(CampoValor), 16));
+    m_text1(CampoData)->setFixedWidth(LarguraPara(m_text1(CampoData), 10));
+    m_text1(CampoNumero)->setFixedWidth(LarguraPara(m_text1(CampoNumero), 16));
 
     grade->addWidget(Rotulo(QStringLiteral("Banco:"), m_text1(CampoBanco)), 0, 0);
     grade->addWidget(m_text1(CampoBanco), 0, 1);
@@ -146,7 +134,7 @@ QWidget *EntradaCheque::MontaLinhas()
         const QString texto = (i < 3 ? QStringLiteral("Cmd%1:") : QStringLiteral("Vrs%1:")).arg(i + 1);
         m_text2.Poe(i, new CampoTexto(0, this));
         m_text2(i)->setFont(FonteFixa());
-        m_text2(i)->setMinimumWidth(Largura(m_text2(i), kLimiteDaLinha));
+        m_text2(i)->setMinimumWidth(LarguraPara(m_text2(i), kLimiteDaLinha));
         auto *rotulo = Rotulo(texto, m_text2(i));
         m_label1.Poe(i + 7, rotulo);
         grade->addWidget(rotulo, i, 0);

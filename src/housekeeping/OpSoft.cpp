@@ -4,6 +4,7 @@
 #include "housekeeping/RegrasDasOpcoes.h"
 #include "nucleo/Sistema.h"
 #include "plataforma/tela/CampoTexto.h"
+#include "plataforma/tela/Formulario.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -17,10 +18,14 @@
 
 namespace housekeeping {
 
+using plataforma::kEspaco;
+using plataforma::kMargem;
+using plataforma::LarguraPara;
+using plataforma::Rotulo;
+
 namespace {
 
-constexpr int kMargem = 12;
-constexpr int kEspaco = 8;
+constexpr int kAlgarismosVisiveis = 6;
 constexpr int kLinhasPorPrazo = 3; // box, text under it, gap
 constexpr int kConfirmar = 0;
 constexpr int kCancelar = 1;
@@ -43,10 +48,7 @@ const std::array<Frase, kPrazosDasOpcoes> kFrases = {{
 OpSoft::OpSoft(nucleo::Sistema &sistema, QWidget *pai)
     : Tela(QStringLiteral("OpSoft"), sistema.mensagens, pai), m_sistema(sistema)
 {
-    setWindowFlags(Qt::Dialog);
-    setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("Opçoes do Software"));
-    FechaComEsc(true);
+    FicaAoLado(QStringLiteral("Opçoes do Software"));
     MontaControles();
     MostraOpcoes();
     CentraNaTela();
@@ -69,7 +71,7 @@ void OpSoft::MontaControles()
         Registra(caixa, regras);
     }
     tudo->addStretch(1);
-    tudo->addWidget(MontaComandos());
+    tudo->addLayout(MontaComandos());
 }
 
 QWidget *OpSoft::MontaPrazos()
@@ -92,9 +94,8 @@ void OpSoft::MontaPrazo(QGridLayout *grade, int i)
     const Frase &frase = kFrases.at(static_cast<std::size_t>(i));
     auto *campo = new QLineEdit;
     m_text01.Poe(i, campo);
-    campo->setAccessibleName(frase.antes);
     campo->setAlignment(Qt::AlignRight);
-    campo->setFixedWidth(campo->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 18);
+    campo->setFixedWidth(LarguraPara(campo, kAlgarismosVisiveis));
     auto *barra = new QScrollBar(Qt::Vertical);
     m_vScroll01.Poe(i, barra);
     barra->setAccessibleName(frase.antes);
@@ -102,14 +103,12 @@ void OpSoft::MontaPrazo(QGridLayout *grade, int i)
     barra->setRange(i == 2 ? kMenorDaTerceiraBarra : kMenorOpcao, kMaiorOpcao);
     barra->setFixedHeight(campo->sizeHint().height() + kEspaco);
 
-    auto *antes = new QLabel(frase.antes);
-    antes->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto *valor = new QHBoxLayout;
     valor->setSpacing(2);
     valor->addWidget(campo);
     valor->addWidget(barra);
     const int linha = i * kLinhasPorPrazo;
-    grade->addWidget(antes, linha, 0);
+    grade->addWidget(Rotulo(frase.antes, campo), linha, 0);
     grade->addLayout(valor, linha, 1);
     grade->addWidget(new QLabel(frase.depois), linha, 2);
     if (!frase.embaixo.isEmpty())
@@ -118,31 +117,21 @@ void OpSoft::MontaPrazo(QGridLayout *grade, int i)
         grade->setRowMinimumHeight(linha + 2, kEspaco);
 }
 
-QWidget *OpSoft::MontaComandos()
+QLayout *OpSoft::MontaComandos()
 {
-    auto *linha = new QWidget;
-    auto *caixa = new QHBoxLayout(linha);
-    caixa->setContentsMargins(0, 0, 0, 0);
-    caixa->setSpacing(kEspaco);
-    caixa->addStretch(1);
-    m_btnCmd.Poe(kConfirmar, new QPushButton(QStringLiteral("C&onfirmar")));
-    m_btnCmd.Poe(kCancelar, new QPushButton(QStringLiteral("&Cancelar")));
-    for (const auto &[indice, botao] : m_btnCmd) {
-        caixa->addWidget(botao);
+    m_btnCmd.Poe(kConfirmar, new QPushButton(QStringLiteral("C&onfirmar"), this));
+    m_btnCmd.Poe(kCancelar, new QPushButton(QStringLiteral("&Cancelar"), this));
+    for (const auto &[indice, botao] : m_btnCmd)
         Registra(botao);
-    }
     connect(m_btnCmd(kConfirmar), &QPushButton::clicked, this, [this] { Guarda([this] { Confirma(); }); });
     connect(m_btnCmd(kCancelar), &QPushButton::clicked, this, &OpSoft::close);
-    return linha;
+    return LinhaDeBotoes(m_btnCmd);
 }
 
 void OpSoft::LigaPrazo(int i)
 {
     plataforma::Regras doCampo;
-    doCampo.chega = [this, i] {
-        m_emUso = i;
-        m_text01(i)->selectAll();
-    };
+    doCampo.chega = [this, i] { m_text01(i)->selectAll(); };
     doCampo.muda = [this, i] { plataforma::DeixaSoDigitos(m_text01(i)); };
     doCampo.deixa = [this, i] {
         DeixaPrazo(i);
@@ -152,18 +141,10 @@ void OpSoft::LigaPrazo(int i)
     Registra(m_text01(i), doCampo);
 
     plataforma::Regras daBarra;
-    daBarra.chega = [this, i] {
-        m_emUso = i;
-        m_barraEmFoco = true;
-        m_vScroll01(i)->setValue(OpcaoAoSair(m_text01(i)->text()));
-    };
-    daBarra.deixa = [this] {
-        m_barraEmFoco = false;
-        return true;
-    };
+    daBarra.chega = [this, i] { m_vScroll01(i)->setValue(OpcaoAoSair(m_text01(i)->text())); };
     daBarra.enter = [this] { Confirma(); };
     Registra(m_vScroll01(i), daBarra);
-    connect(m_vScroll01(i), &QScrollBar::valueChanged, this, [this](int valor) { BarraMudou(valor); });
+    connect(m_vScroll01(i), &QScrollBar::valueChanged, this, [this, i](int valor) { BarraMudou(i, valor); });
 }
 
 void OpSoft::MostraOpcoes()
@@ -188,10 +169,12 @@ void OpSoft::DeixaPrazo(int i)
     m_vScroll01(i)->setValue(valor);
 }
 
-void OpSoft::BarraMudou(int valor)
+// Only while the bar has the focus: a box that is left moves its bar, and keeps a number below the bar's
+// floor.
+void OpSoft::BarraMudou(int i, int valor)
 {
-    if (m_barraEmFoco)
-        m_text01(m_emUso)->setText(QString::number(valor));
+    if (Atual() == m_vScroll01(i))
+        m_text01(i)->setText(QString::number(valor));
 }
 
 OpcoesNaTela OpSoft::NaTela() const
@@ -210,7 +193,7 @@ void OpSoft::Confirma()
     Caminha(m_btnCmd(kConfirmar));
     const OpcoesNaTela tela = NaTela();
     for (const auto &[chave, valor] : ChavesAGravar(tela, m_sistema))
-        m_sistema.ini.GravaIni(QStringLiteral("Opcoes"), chave, valor);
+        m_sistema.ini.GravaIni(nucleo::kOpcoes, chave, valor);
     TomaOpcoes(tela, m_sistema);
     close();
 }

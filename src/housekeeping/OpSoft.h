@@ -6,6 +6,7 @@
 
 class QCheckBox;
 class QGridLayout;
+class QLayout;
 class QLineEdit;
 class QPushButton;
 class QScrollBar;
@@ -27,11 +28,11 @@ private:
     void MontaControles();
     QWidget *MontaPrazos();
     void MontaPrazo(QGridLayout *grade, int i);
-    QWidget *MontaComandos();
+    QLayout *MontaComandos();
     void LigaPrazo(int i);
     void MostraOpcoes();
     void DeixaPrazo(int i);
-    void BarraMudou(int valor);
+    void BarraMudou(int i, int valor);
     void Confirma();
     [[nodiscard]] OpcoesNaTela NaTela() const;
 
@@ -41,8 +42,6 @@ private:
     plataforma::Arranjo<QPushButton> m_btnCmd{QStringLiteral("BtnCmd")};
     QCheckBox *m_checkImpInv = nullptr;
     QCheckBox *m_checkUsarNum = nullptr;
-    int m_emUso = 0;            ///< index of the box or bar in use
-    bool m_barraEmFoco = false; ///< a scroll bar has the focus
 };
 
 } // namespace housekeeping

@@ -10,26 +10,14 @@ namespace housekeeping {
 
 namespace {
 
-struct Prazo {
-    std::size_t indice; // Text01
-    QString chave;
-    int nucleo::Sistema::*variavel;
-};
-const std::array<Prazo, kPrazosDasOpcoes> kPrazos = {{
-    {0, QStringLiteral("PeriodoRelExc"), &nucleo::Sistema::PeriodoRelExc},
-    {1, QStringLiteral("PeriodoCopExc"), &nucleo::Sistema::PeriodoCopExc},
-    {2, QStringLiteral("NumChkPgRel"), &nucleo::Sistema::NumChkPgRel},
-}};
-
-const QString &Texto(const Prazo &prazo, const OpcoesNaTela &tela)
-{
-    return tela.textos.at(prazo.indice);
-}
+// The options of the boxes Text01, in their order.
+const std::array<const nucleo::Opcao *, kPrazosDasOpcoes> kPrazos = {
+    &nucleo::kPeriodoRelExc, &nucleo::kPeriodoCopExc, &nucleo::kNumChkPgRel};
 
 // A box that was never used may show a stored number out of bounds: it is as it is in memory, and stays so.
-bool Mudou(const Prazo &prazo, const OpcoesNaTela &tela, const nucleo::Sistema &sistema)
+bool Mudou(std::size_t i, const OpcoesNaTela &tela, const nucleo::Sistema &sistema)
 {
-    return Texto(prazo, tela) != QString::number(sistema.*prazo.variavel);
+    return tela.textos.at(i) != QString::number(sistema.*kPrazos.at(i)->variavel);
 }
 
 QString UmOuZero(bool valor)
@@ -48,23 +36,23 @@ std::vector<std::pair<QString, QString>> ChavesAGravar(const OpcoesNaTela &tela,
                                                        const nucleo::Sistema &sistema)
 {
     std::vector<std::pair<QString, QString>> chaves;
-    const auto gravaSeMudou = [&](const Prazo &prazo) {
-        if (Mudou(prazo, tela, sistema))
-            chaves.emplace_back(prazo.chave, Texto(prazo, tela));
+    const auto gravaSeMudou = [&](std::size_t i) {
+        if (Mudou(i, tela, sistema))
+            chaves.emplace_back(kPrazos.at(i)->chave, tela.textos.at(i));
     };
-    gravaSeMudou(kPrazos[0]);
-    gravaSeMudou(kPrazos[1]);
-    chaves.emplace_back(QStringLiteral("UsarImpInv"), UmOuZero(tela.impressaoInvertida));
-    chaves.emplace_back(QStringLiteral("NumCObrig"), UmOuZero(tela.numeroObrigatorio));
-    gravaSeMudou(kPrazos[2]);
+    gravaSeMudou(0);
+    gravaSeMudou(1);
+    chaves.emplace_back(nucleo::kUsarImpInv.chave, UmOuZero(tela.impressaoInvertida));
+    chaves.emplace_back(nucleo::kNumCObrig.chave, UmOuZero(tela.numeroObrigatorio));
+    gravaSeMudou(2);
     return chaves;
 }
 
 OpcoesNaTela OpcoesEmMemoria(const nucleo::Sistema &sistema)
 {
     OpcoesNaTela tela;
-    for (const Prazo &prazo : kPrazos)
-        tela.textos.at(prazo.indice) = QString::number(sistema.*prazo.variavel);
+    for (std::size_t i = 0; i < kPrazos.size(); ++i)
+        tela.textos.at(i) = QString::number(sistema.*kPrazos.at(i)->variavel);
     tela.impressaoInvertida = sistema.UsarImpInv == 1;
     tela.numeroObrigatorio = sistema.NumCObrig == 1;
     return tela;
@@ -72,9 +60,9 @@ OpcoesNaTela OpcoesEmMemoria(const nucleo::Sistema &sistema)
 
 void TomaOpcoes(const OpcoesNaTela &tela, nucleo::Sistema &sistema)
 {
-    for (const Prazo &prazo : kPrazos)
-        if (Mudou(prazo, tela, sistema))
-            sistema.*prazo.variavel = static_cast<int>(plataforma::Val(Texto(prazo, tela)));
+    for (std::size_t i = 0; i < kPrazos.size(); ++i)
+        if (Mudou(i, tela, sistema))
+            sistema.*kPrazos.at(i)->variavel = static_cast<int>(plataforma::Val(tela.textos.at(i)));
     sistema.UsarImpInv = tela.impressaoInvertida ? 1 : 0;
     sistema.NumCObrig = tela.numeroObrigatorio ? 1 : 0;
 }

@@ -19,6 +19,11 @@ QString DataEm(const QString &texto, qsizetype dia, qsizetype mes, qsizetype ano
     return Mid(texto, dia, 2) + QLatin1Char('/') + Mid(texto, mes, 2) + QLatin1Char('/') + Mid(texto, ano, 2);
 }
 
+std::optional<QDate> DataOuNada(const QString &texto)
+{
+    return IsDate(texto) ? std::optional(CVDate(texto)) : std::nullopt;
+}
+
 } // namespace
 
 QDate HojeDoExpurgo(const QString &dataHoje)
@@ -26,13 +31,18 @@ QDate HojeDoExpurgo(const QString &dataHoje)
     return CVDate(DataEm(dataHoje, 1, 3, 5));
 }
 
+std::optional<QDate> DataDoCheque(const QString &data)
+{
+    return DataOuNada(Format(data, QStringLiteral("!@@@@@@@@")));
+}
+
 std::optional<qint64> IdadeDosCheques::operator()(const QString &data)
 {
     if (m_dias && data == m_ultima)
         return m_dias;
-    const QString texto = Format(data, QStringLiteral("!@@@@@@@@"));
     m_ultima = data;
-    m_dias = IsDate(texto) ? std::optional(DateDiff(CVDate(texto), m_hoje)) : std::nullopt;
+    const auto dia = DataDoCheque(data);
+    m_dias = dia ? std::optional(DateDiff(*dia, m_hoje)) : std::nullopt;
     return m_dias;
 }
 
@@ -40,10 +50,7 @@ std::optional<QDate> DataDaCopia(const QString &nome)
 {
     if (Len(nome) != kTamanhoDoNome)
         return std::nullopt;
-    const QString data = DataEm(nome, 4, 6, 9);
-    if (!IsDate(data))
-        return std::nullopt;
-    return CVDate(data);
+    return DataOuNada(DataEm(nome, 4, 6, 9));
 }
 
 QString PerguntaDosCheques(int periodo)

@@ -11,6 +11,9 @@ namespace housekeeping {
 /// @throws RuntimeError 13 when the text is no date
 QDate HojeDoExpurgo(const QString &dataHoje);
 
+/// The day that a stored `Data` tells; nothing when the purge cannot read it, and would stop at it.
+std::optional<QDate> DataDoCheque(const QString &data);
+
 /// Age in days of the dates that stand in the log; rows of one day stand together, so the last one is kept.
 class IdadeDosCheques {
 public:

@@ -11,4 +11,8 @@ using plataforma::kTituloPadrao;
 using plataforma::Mensagens;
 using plataforma::Resposta;
 
+/// Texts that several screens say.
+inline const QString kErro = QStringLiteral("Erro");
+inline const QString kTamanhoMaximo = QStringLiteral("Tamanho Máximo deste campo...");
+
 } // namespace nucleo

@@ -10,6 +10,10 @@ namespace nucleo {
 inline const QString kAusente = QStringLiteral("-2"); ///< answer of a read when the key is missing
 inline const QString kVazio = QStringLiteral("*%*");  ///< given to a write: stores an empty value
 
+/// Sections that more than one room reads or writes.
+inline const QString kOpcoes = QStringLiteral("Opcoes");
+inline const QString kFormato = QStringLiteral("Formato");
+
 class QX_INI {
 public:
     explicit QX_INI(const QString &arquivoIni) : m_arquivo(arquivoIni) {}

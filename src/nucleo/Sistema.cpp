@@ -33,11 +33,17 @@ Sistema::Sistema(const QString &caminhoApp, Mensagens &aMensagens, Ocupado &oOcu
 
 int OpcaoNumerica(const QX_INI &ini, const QString &chave, int padrao)
 {
-    const QString lido = ini.GravaIni(QStringLiteral("Opcoes"), chave);
+    const QString lido = ini.GravaIni(kOpcoes, chave);
     if (lido == kAusente)
         return padrao;
     const double valor = std::nearbyint(plataforma::Val(lido)); // a half goes to the even number
     return static_cast<int>(std::clamp(valor, -kMaiorOpcao, kMaiorOpcao));
+}
+
+void CarregaOpcao(Sistema &sistema, const Opcao &opcao)
+{
+    int &variavel = sistema.*opcao.variavel;
+    variavel = OpcaoNumerica(sistema.ini, opcao.chave, variavel);
 }
 
 bool CarregaInRel(const QX_INI &ini)

@@ -59,6 +59,20 @@ public:
 /// One too large is the largest there is.
 int OpcaoNumerica(const QX_INI &ini, const QString &chave, int padrao);
 
+/// A numeric option: its key in section `Opcoes`, and the variable that holds it. Its default is the value
+/// that the variable has from the beginning.
+struct Opcao {
+    QString chave;
+    int Sistema::*variavel;
+};
+inline const Opcao kPeriodoRelExc{QStringLiteral("PeriodoRelExc"), &Sistema::PeriodoRelExc};
+inline const Opcao kPeriodoCopExc{QStringLiteral("PeriodoCopExc"), &Sistema::PeriodoCopExc};
+inline const Opcao kUsarImpInv{QStringLiteral("UsarImpInv"), &Sistema::UsarImpInv};
+inline const Opcao kNumCObrig{QStringLiteral("NumCObrig"), &Sistema::NumCObrig};
+inline const Opcao kNumChkPgRel{QStringLiteral("NumChkPgRel"), &Sistema::NumChkPgRel};
+/// Takes a stored option into its variable.
+void CarregaOpcao(Sistema &sistema, const Opcao &opcao);
+
 /// `InRel`: whether the box starts ticked; a missing key or any value that does not read as 0 is written as
 /// "1".
 bool CarregaInRel(const QX_INI &ini);

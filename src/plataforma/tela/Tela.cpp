@@ -322,6 +322,14 @@ bool Tela::Rato(QWidget *controle, QEvent *evento)
     return false;
 }
 
+void Tela::FicaAoLado(const QString &titulo)
+{
+    setWindowFlags(Qt::Dialog);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(titulo);
+    FechaComEsc(true);
+}
+
 void Tela::CentraNaTela()
 {
     resize(sizeHint());

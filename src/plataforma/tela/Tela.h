@@ -56,6 +56,8 @@ public:
 protected:
     bool event(QEvent *evento) override;
     void keyPressEvent(QKeyEvent *evento) override;
+    /// Makes it a screen beside the main one: over it, gone when it is closed, Esc closes it.
+    void FicaAoLado(const QString &titulo);
     /// Takes the size that the controls ask for, in the middle of the display.
     void CentraNaTela();
     /// Whether Esc closes this screen.

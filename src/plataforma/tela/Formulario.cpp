@@ -1,0 +1,36 @@
+// See Formulario.h.
+#include "plataforma/tela/Formulario.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace plataforma {
+
+int LarguraPara(const QLineEdit *campo, int n)
+{
+    constexpr int kMoldura = 18; // frame and margins
+    return campo->fontMetrics().horizontalAdvance(QString(n, QLatin1Char('0'))) + kMoldura;
+}
+
+QLabel *Rotulo(const QString &texto, QWidget *controle)
+{
+    auto *rotulo = new QLabel(texto);
+    rotulo->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    rotulo->setTextFormat(Qt::PlainText);
+    controle->setAccessibleName(texto);
+    return rotulo;
+}
+
+QHBoxLayout *LinhaDeBotoes(const Arranjo<QPushButton> &botoes)
+{
+    auto *linha = new QHBoxLayout;
+    linha->setSpacing(kEspaco);
+    linha->addStretch(1);
+    for (const auto &[indice, botao] : botoes)
+        linha->addWidget(botao);
+    return linha;
+}
+
+} // namespace plataforma

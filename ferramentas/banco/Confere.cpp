@@ -8,6 +8,7 @@
 #include "Console.h"
 #include "Leitura.h"
 #include "Loja.h"
+#include "nucleo/QX_INI.h"
 #include "plataforma/perfil/ProfileFile.h"
 
 #include <QFileInfo>
@@ -53,7 +54,7 @@ void ConfereIni(const QString &ini, Achados &achados)
             return QStringLiteral("não há o arquivo %1; as posições dos bancos não foram comparadas.")
                 .arg(ini);
         });
-    else if (!plataforma::ProfileFile(ini).GetPrivateProfileSection(QStringLiteral("Formato")))
+    else if (!plataforma::ProfileFile(ini).GetPrivateProfileSection(nucleo::kFormato))
         achados.Junta(Tipo::Arquivo, [&] {
             return QStringLiteral(
                        "o arquivo %1 não pode ser lido; as posições dos bancos não foram comparadas.")
@@ -93,7 +94,7 @@ qint64 ConfereLinhas(SQLite::Database &loja, const Tabela &tabela, const TabelaA
     if (!achada.temTodos) {
         achados.Junta(Tipo::NaoConferida, [&] {
             return QStringLiteral("as linhas da tabela %1 não foram conferidas, porque lhe faltam campos.")
-                .arg(QString::fromUtf8(tabela.nome));
+                .arg(NomeDe(tabela));
         });
         return -1;
     }

@@ -1,7 +1,14 @@
 // What a check found: defects and notices, kept by kind, so that a thousand of one kind do not hide another.
 #include "ConfereAchados.h"
 
+#include <algorithm>
+
 namespace banco {
+
+bool SoDigitos(std::string_view texto)
+{
+    return std::all_of(texto.begin(), texto.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
 
 namespace {
 

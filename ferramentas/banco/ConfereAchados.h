@@ -5,8 +5,12 @@
 #include <cstdint>
 #include <QString>
 #include <QStringList>
+#include <string_view>
 
 namespace banco {
+
+/// Whether a text holds nothing but digits; an empty one does.
+bool SoDigitos(std::string_view texto);
 
 /// The kinds, in the order in which they are told.
 enum class Tipo : std::uint8_t {

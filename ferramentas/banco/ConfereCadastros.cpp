@@ -2,7 +2,6 @@
 #include "ConfereCadastros.h"
 
 #include "Leiaute.h"
-#include "plataforma/basico/Numero.h"
 #include "plataforma/basico/Texto.h"
 #include "plataforma/jet/Ordem.h"
 #include "plataforma/perfil/ProfileFile.h"
@@ -79,7 +78,7 @@ std::vector<Registro> LeRegistros(SQLite::Database &loja, const Tabela &tabela, 
 QString Onde(const Tabela &tabela, const Registro &registro)
 {
     return QStringLiteral("%1, linha %2 (Codigo %3)")
-        .arg(QString::fromUtf8(tabela.nome), QString::number(registro.posicao), Citado(registro.Codigo()));
+        .arg(NomeDe(tabela), QString::number(registro.posicao), Citado(registro.Codigo()));
 }
 
 void ConfereCodigos(const Tabela &tabela, const std::vector<Registro> &registros, Achados &achados)
@@ -148,7 +147,7 @@ void ConferenteDeChaves::Confere(const std::vector<Registro> &registros,
             m_achados.Junta(Tipo::ChaveSemBanco, [&] {
                 return Chave(par.first) +
                        QStringLiteral(" é de um banco que não está na tabela %1 (foi excluído?).")
-                           .arg(QString::fromUtf8(m_tabela.nome));
+                           .arg(NomeDe(m_tabela));
             });
     }
 }
@@ -188,13 +187,12 @@ void ConferenteDeChaves::Compara(const Registro &registro, const TextoDoLeiaute 
 {
     for (qsizetype i = 0; i < lido.numeros.size(); ++i) {
         const QString &campo = registro.campos[i + 2];
-        if (plataforma::Val(campo) != plataforma::Val(lido.numeros[i]))
+        if (!MesmoNumero(lido.numeros[i], campo))
             Difere(registro, QString::fromUtf8(m_tabela.campos[static_cast<std::size_t>(i) + 2]), campo,
                    lido.numeros[i]);
     }
-    // The file may hold the name in Windows-1252, where a character of another script is a "?".
     const QString nome = plataforma::RTrim(plataforma::Left(registro.Nome(), 20));
-    if (lido.nome != nome && lido.nome != plataforma::FromAnsi(plataforma::ToAnsi(nome)))
+    if (!MesmoNome(lido.nome, nome))
         Difere(registro, QStringLiteral("Nome"), nome, lido.nome);
 }
 

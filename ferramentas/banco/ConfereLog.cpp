@@ -2,11 +2,11 @@
 #include "ConfereLog.h"
 
 #include "Console.h"
+#include "housekeeping/RegrasDoExpurgo.h"
 #include "Leitura.h"
-#include "plataforma/basico/Data.h"
-#include "plataforma/basico/Formato.h"
 #include "plataforma/basico/Numero.h"
 #include "plataforma/jet/Ordem.h"
+#include "Preparado.h"
 #include "Sequencia.h"
 
 #include <algorithm>
@@ -24,11 +24,6 @@ using plataforma::jet::TextoGravado;
 constexpr std::size_t kAlgarismosDoIndex = 10;
 constexpr std::size_t kAlgarismosDoCodigo = 5;
 constexpr qint64 kLinhasPorBloco = 20'000;
-
-bool SoAlgarismos(std::string_view texto)
-{
-    return std::all_of(texto.begin(), texto.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
 
 /// One row. The bytes belong to the engine until the next one is read; a NULL has no address.
 struct Linha {
@@ -100,7 +95,7 @@ void Conferente::ConfereIndex(const Linha &linha)
             return Onde(linha) + QStringLiteral(": é a primeira e está sem Codigo; por isso o próximo cheque "
                                                 "receberia outra vez o Index 0000000001.");
         });
-    if (linha.indice.size() != kAlgarismosDoIndex || !SoAlgarismos(linha.indice)) {
+    if (linha.indice.size() != kAlgarismosDoIndex || !SoDigitos(linha.indice)) {
         m_achados.Junta(Tipo::IndexInvalido,
                         [&] { return Onde(linha) + QStringLiteral(": o Index não tem dez algarismos."); });
         return;
@@ -126,7 +121,7 @@ void Conferente::ConfereCodigo(const Linha &linha)
         Junta(Tipo::CodigoDoCheque, linha, "Codigo", linha.codigo, "não é o fim do Index");
 }
 
-// The purge at start turns the text into a date just so, and stops at the first that is none.
+// What the purge at start cannot read, it stops at.
 bool Conferente::DataServe(std::string_view bytes)
 {
     constexpr std::size_t kDatasLembradas = 50'000;
@@ -134,8 +129,7 @@ bool Conferente::DataServe(std::string_view bytes)
         m_datas.clear();
     const auto [achada, nova] = m_datas.try_emplace(std::string(bytes), false);
     if (nova)
-        achada->second =
-            plataforma::IsDate(plataforma::Format(TextoGravado(bytes), QStringLiteral("!@@@@@@@@")));
+        achada->second = housekeeping::DataDoCheque(TextoGravado(bytes)).has_value();
     if (achada->second)
         m_ultimaData = bytes;
     return achada->second;
@@ -154,8 +148,8 @@ void Conferente::ConfereValor(const Linha &linha)
     constexpr std::size_t kCurto = 15;
     const std::string_view v = linha.valor;
     const std::size_t virgula = std::min(v.find(','), v.size());
-    const bool simples = virgula > 0 && v.size() <= kCurto && SoAlgarismos(v.substr(0, virgula)) &&
-                         (virgula == v.size() || SoAlgarismos(v.substr(virgula + 1)));
+    const bool simples = virgula > 0 && v.size() <= kCurto && SoDigitos(v.substr(0, virgula)) &&
+                         (virgula == v.size() || SoDigitos(v.substr(virgula + 1)));
     if (!simples && !plataforma::IsNumeric(TextoDe(v)))
         Junta(Tipo::ValorDoCheque, linha, "V_CH", v, "não é um valor, e os relatórios não podem somá-lo");
 }
@@ -187,53 +181,37 @@ void Conferente::Termina()
 /// Reads the rows of one statement.
 class Leitor {
 public:
-    Leitor(SQLite::Database &loja, const std::string &sql) : m_loja(loja)
+    Leitor(SQLite::Database &loja, const std::string &sql) : m_loja(loja), m_comando(Prepara(loja, sql))
     {
-        Exige(sqlite3_prepare_v2(loja.getHandle(), sql.c_str(), -1, &m_comando, nullptr));
         SQLite::Statement codificacao(loja, "PRAGMA encoding");
         m_utf8 = codificacao.executeStep() && codificacao.getColumn(0).getString() == "UTF-8";
     }
-    ~Leitor() { sqlite3_finalize(m_comando); }
-    Leitor(const Leitor &) = delete;
-    Leitor &operator=(const Leitor &) = delete;
-
     void Comeca(qint64 menor)
     {
-        Exige(sqlite3_reset(m_comando));
-        sqlite3_bind_int64(m_comando, 1, menor);
+        Larga();
+        sqlite3_bind_int64(m_comando.get(), 1, menor);
     }
-    bool Passo()
-    {
-        const int resultado = sqlite3_step(m_comando);
-        if (resultado != SQLITE_ROW && resultado != SQLITE_DONE)
-            Exige(resultado);
-        return resultado == SQLITE_ROW;
-    }
+    bool Passo() { return banco::Passo(m_loja, m_comando); }
     /// Gives back the lock on the file.
-    void Larga() { sqlite3_reset(m_comando); }
-    [[nodiscard]] qint64 Numero() const { return sqlite3_column_int64(m_comando, 0); }
+    void Larga() { sqlite3_reset(m_comando.get()); }
+    [[nodiscard]] qint64 Numero() const { return sqlite3_column_int64(m_comando.get(), 0); }
     [[nodiscard]] Linha Atual() const { return {Campo(1), Campo(2), Campo(3), Campo(4), Campo(5)}; }
 
 private:
     // The bytes of a text as they lie in the file; asking for a text would copy each of them first.
     [[nodiscard]] std::string_view Campo(int coluna) const
     {
-        const void *bytes =
-            m_utf8 ? sqlite3_column_blob(m_comando, coluna) : sqlite3_column_text(m_comando, coluna);
-        const auto tamanho = static_cast<std::size_t>(sqlite3_column_bytes(m_comando, coluna));
+        const void *bytes = m_utf8 ? sqlite3_column_blob(m_comando.get(), coluna)
+                                   : sqlite3_column_text(m_comando.get(), coluna);
+        const auto tamanho = static_cast<std::size_t>(sqlite3_column_bytes(m_comando.get(), coluna));
         if (bytes)
             return {static_cast<const char *>(bytes), tamanho};
-        return sqlite3_column_type(m_comando, coluna) == SQLITE_NULL ? std::string_view()
-                                                                     : std::string_view("");
-    }
-    void Exige(int resultado)
-    {
-        if (resultado != SQLITE_OK)
-            throw SQLite::Exception(m_loja.getHandle(), resultado);
+        return sqlite3_column_type(m_comando.get(), coluna) == SQLITE_NULL ? std::string_view()
+                                                                           : std::string_view("");
     }
 
     SQLite::Database &m_loja;
-    sqlite3_stmt *m_comando = nullptr;
+    Preparado m_comando;
     bool m_utf8 = true;
 };
 

@@ -109,7 +109,7 @@ TabelaAchada ConfereTabela(SQLite::Database &loja, const Tabela &esperada, const
 {
     const std::vector<Campo> campos = CamposDe(loja, nome);
     TabelaAchada achada{EntreAspas(nome), {}, {}, true};
-    const QString tabela = QString::fromUtf8(esperada.nome);
+    const QString tabela = NomeDe(esperada);
     for (const std::string_view campo : esperada.campos) {
         if (Tem(campos, campo))
             continue;
@@ -180,9 +180,8 @@ std::vector<TabelaAchada> ConfereTabelas(SQLite::Database &loja, Achados &achado
     }
     for (std::size_t i = 0; i < achadas.size(); ++i)
         if (achadas[i].nome.empty())
-            achados.Junta(Tipo::Tabela, [&] {
-                return QStringLiteral("falta a tabela %1.").arg(QString::fromUtf8(esperadas[i].nome));
-            });
+            achados.Junta(Tipo::Tabela,
+                          [&] { return QStringLiteral("falta a tabela %1.").arg(NomeDe(esperadas[i])); });
     return achadas;
 }
 

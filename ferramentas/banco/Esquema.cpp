@@ -57,6 +57,11 @@ std::string ComandoDoIndice(const Tabela &tabela)
 
 } // namespace
 
+QString NomeDe(const Tabela &tabela)
+{
+    return QString::fromUtf8(tabela.nome.data(), static_cast<qsizetype>(tabela.nome.size()));
+}
+
 std::span<const Tabela> Tabelas()
 {
     return kTabelas;

@@ -1,6 +1,7 @@
 // The tables of the store, their fields and their indexes: the one place that names them.
 #pragma once
 
+#include <QString>
 #include <span>
 #include <string>
 #include <string_view>
@@ -16,6 +17,9 @@ struct Tabela {
     std::span<const std::string_view> campos; ///< in the order of the file; all of them text
     std::string_view chave;                   ///< the field that the program looks rows up by
 };
+
+/// The table's name, for what the program says.
+QString NomeDe(const Tabela &tabela);
 
 /// The six tables, in the order in which they are made.
 std::span<const Tabela> Tabelas();

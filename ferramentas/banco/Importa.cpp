@@ -8,10 +8,8 @@
 #include "IniNovo.h"
 #include "Leiaute.h"
 #include "Loja.h"
+#include "nucleo/QX_INI.h"
 #include "OpcoesCsv.h"
-#include "plataforma/basico/Numero.h"
-#include "plataforma/basico/Texto.h"
-#include "plataforma/perfil/ProfileFile.h"
 
 #include <algorithm>
 #include <memory>
@@ -35,11 +33,6 @@ struct Fonte {
     QString caminho;
 };
 using Fontes = std::vector<Fonte>;
-
-QString NomeDe(const Tabela &tabela)
-{
-    return QString::fromUtf8(tabela.nome.data(), static_cast<qsizetype>(tabela.nome.size()));
-}
 
 // The table that a file is called after; null when it is called after none.
 const Tabela *TabelaDoArquivo(const QString &caminho)
@@ -145,18 +138,13 @@ void Importacao::DizContas() const
     }
 }
 
-// Whether the file says the same of a bank as its row; the file may hold the name in Windows-1252, where a
-// character of another script is a "?".
+// Whether the file says the same of a bank as its row.
 bool MesmoFormato(const QString &noArquivo, const QString &daLinha)
 {
     const TextoDoLeiaute a = LeFormato(noArquivo);
     const TextoDoLeiaute b = LeFormato(daLinha);
-    const bool numeros =
-        std::equal(a.numeros.begin(), a.numeros.end(), b.numeros.begin(), b.numeros.end(),
-                   [](const QString &x, const QString &y) {
-                       return plataforma::IsNumeric(x) && plataforma::Val(x) == plataforma::Val(y);
-                   });
-    return numeros && (a.nome == b.nome || a.nome == plataforma::FromAnsi(plataforma::ToAnsi(b.nome)));
+    return MesmoNome(a.nome, b.nome) &&
+           std::equal(a.numeros.begin(), a.numeros.end(), b.numeros.begin(), b.numeros.end(), MesmoNumero);
 }
 
 void DizChaves(const QString &titulo, const QStringList &chaves)
@@ -174,15 +162,12 @@ void DizChaves(const QString &titulo, const QStringList &chaves)
 void DizOQueFaltaNoIni(const QString &pasta, const std::vector<ChaveDoFormato> &chaves)
 {
     const QString ini = ArquivoNaPasta(pasta, QLatin1String(kNomeDoIni));
-    const plataforma::ProfileFile perfil(ini);
-    const QString nenhuma = QStringLiteral("-2");
+    const nucleo::QX_INI perfil(ini);
     QStringList faltam, outras;
     for (const auto &[codigo, valor] : chaves) {
-        constexpr int kTamanho = 160;
-        const QString atual =
-            perfil.GetPrivateProfileString(QStringLiteral("Formato"), codigo, nenhuma, kTamanho);
+        const QString atual = perfil.GravaIni(nucleo::kFormato, codigo);
         const QString linha = codigo + QLatin1Char('=') + valor;
-        if (atual == nenhuma)
+        if (atual == nucleo::kAusente)
             faltam.append(linha);
         else if (!MesmoFormato(atual, valor))
             outras.append(linha);

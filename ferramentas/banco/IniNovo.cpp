@@ -3,6 +3,7 @@
 
 #include "Console.h"
 #include "Loja.h"
+#include "nucleo/QX_INI.h"
 #include "plataforma/perfil/ProfileFile.h"
 
 #include <cstdio>
@@ -37,7 +38,7 @@ void IniNovo::EscreveFormato(const std::vector<ChaveDoFormato> &chaves)
     Progresso progresso(QStringLiteral("Bancos"), std::ssize(chaves));
     qint64 feitos = 0;
     for (const auto &[codigo, valor] : chaves) {
-        if (!perfil.WritePrivateProfileString(QStringLiteral("Formato"), codigo, valor))
+        if (!perfil.WritePrivateProfileString(nucleo::kFormato, codigo, valor))
             throw Erro();
         progresso.Mostra(++feitos);
     }

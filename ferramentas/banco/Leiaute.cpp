@@ -2,6 +2,7 @@
 #include "Leiaute.h"
 
 #include "plataforma/basico/Formato.h"
+#include "plataforma/basico/Numero.h"
 #include "plataforma/basico/Texto.h"
 
 #include <QRegularExpression>
@@ -45,6 +46,16 @@ TextoDoLeiaute LeChequeTransf(const QString &texto)
     }
     lido.nome = plataforma::RTrim(plataforma::Mid(texto, kInicioDoNome));
     return lido;
+}
+
+bool MesmoNumero(const QString &noArquivo, const QString &naTabela)
+{
+    return plataforma::IsNumeric(noArquivo) && plataforma::Val(noArquivo) == plataforma::Val(naTabela);
+}
+
+bool MesmoNome(const QString &noArquivo, const QString &naTabela)
+{
+    return noArquivo == naTabela || noArquivo == plataforma::FromAnsi(plataforma::ToAnsi(naTabela));
 }
 
 } // namespace banco

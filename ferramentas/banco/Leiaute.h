@@ -32,4 +32,10 @@ TextoDoLeiaute LeFormato(const QString &texto);
 /// three of four characters, and the name from character 62 on. No numbers when one of them is not there.
 TextoDoLeiaute LeChequeTransf(const QString &texto);
 
+/// Whether a number of the file and one of the table, each as it stands, are the same place.
+bool MesmoNumero(const QString &noArquivo, const QString &naTabela);
+/// Whether a name of the file is a name of the table; the file may hold it in Windows-1252, where a character
+/// of another script is a "?".
+bool MesmoNome(const QString &noArquivo, const QString &naTabela);
+
 } // namespace banco

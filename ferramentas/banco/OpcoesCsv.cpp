@@ -10,11 +10,6 @@ namespace banco {
 
 namespace {
 
-QString Nome(const Tabela &tabela)
-{
-    return QString::fromUtf8(tabela.nome.data(), static_cast<qsizetype>(tabela.nome.size()));
-}
-
 QString LeTabela(const QString &texto, OpcoesCsv &opcoes)
 {
     const Tabela *const tabela = AchaTabela(texto);
@@ -98,7 +93,7 @@ QString LeOpcoesCsv(const QString &comando, const QStringList &palavras, OpcoesC
 const Tabela *AchaTabela(const QString &nome)
 {
     for (const Tabela &tabela : Tabelas()) {
-        if (nome.compare(Nome(tabela), Qt::CaseInsensitive) == 0)
+        if (nome.compare(NomeDe(tabela), Qt::CaseInsensitive) == 0)
             return &tabela;
     }
     return nullptr;
@@ -108,7 +103,7 @@ QString NomesDasTabelas()
 {
     QStringList nomes;
     for (const Tabela &tabela : Tabelas())
-        nomes.append(Nome(tabela));
+        nomes.append(NomeDe(tabela));
     return nomes.join(QStringLiteral(", "));
 }
 

@@ -26,11 +26,6 @@ QString Dito(const Campo &campo)
     return campo.nulo ? Citado({}) : Citado(EmTexto(campo.texto));
 }
 
-bool SoDigitos(std::string_view texto)
-{
-    return std::all_of(texto.begin(), texto.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
-
 bool EData(const std::string &texto)
 {
     constexpr std::string_view kForma = "00/00/00";

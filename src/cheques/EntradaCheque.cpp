@@ -8,7 +8,7 @@
 #include "nucleo/Mensagens.h"
 #include "nucleo/Relogio.h"
 #include "nucleo/Sistema.h"
-#include "plataforma/tela/Teclas.h"
+#include "plataforma/basico/Teclas.h"
 #include "plataforma/tela/Tela.h"
 
 #include <QCheckBox>

@@ -92,9 +92,8 @@ std::vector<Peca> PecasDe(QStringView padrao)
     return pecas;
 }
 
-bool Aceita(const Peca &peca, QChar c)
+bool Aceita(const Peca &peca, char16_t letra)
 {
-    const char16_t letra = Dobra(c);
     bool naLista = false;
     switch (peca.tipo) {
     case Peca::Letra:
@@ -113,20 +112,29 @@ bool Aceita(const Peca &peca, QChar c)
     return true;
 }
 
-} // namespace
-
-bool Like(const QString &texto, const QString &padrao)
+/// Walks a text of `tamanho` characters along the pattern. `letra` gives the folded character of a place, or
+/// none where it cannot tell; the result is none where it hangs on such a place.
+template <class Letra>
+std::optional<bool> Percorre(const std::vector<Peca> &pecas, std::size_t tamanho, Letra letra)
 {
-    const std::vector<Peca> pecas = PecasDe(padrao);
     std::size_t p = 0;
-    qsizetype t = 0;
+    std::size_t t = 0;
     std::optional<std::size_t> volta; // the piece behind the last "*" met
-    qsizetype voltaTexto = 0;         // where that "*" ends for now
-    while (t < texto.size()) {
+    std::size_t voltaTexto = 0;       // where that "*" ends for now
+    while (t < tamanho) {
         if (p < pecas.size() && pecas[p].tipo == Peca::Varios) {
-            volta = ++p;
+            if (++p == pecas.size()) {
+                return true; // whatever is left
+            }
+            volta = p;
             voltaTexto = t;
-        } else if (p < pecas.size() && Aceita(pecas[p], texto[t])) {
+            continue;
+        }
+        const std::optional<char16_t> c = letra(t);
+        if (!c) {
+            return std::nullopt;
+        }
+        if (p < pecas.size() && Aceita(pecas[p], *c)) {
             ++p;
             ++t;
         } else if (volta) {
@@ -140,6 +148,37 @@ bool Like(const QString &texto, const QString &padrao)
         ++p;
     }
     return p == pecas.size();
+}
+
+} // namespace
+
+struct PadraoLike::Pecas : std::vector<Peca> {};
+
+PadraoLike::PadraoLike(const QString &padrao) : m_pecas(std::make_unique<Pecas>(Pecas{PecasDe(padrao)})) {}
+
+PadraoLike::~PadraoLike() = default;
+
+bool PadraoLike::Aceita(const QString &texto) const
+{
+    const auto letra = [&](std::size_t t) { return std::optional(Dobra(texto[static_cast<qsizetype>(t)])); };
+    return *Percorre(*m_pecas, static_cast<std::size_t>(texto.size()), letra);
+}
+
+std::optional<bool> PadraoLike::AceitaBytes(std::string_view bytes) const
+{
+    const auto letra = [&](std::size_t t) -> std::optional<char16_t> {
+        const auto c = static_cast<unsigned char>(bytes[t]);
+        if (c >= 0x80) {
+            return std::nullopt;
+        }
+        return static_cast<char16_t>(c >= 'A' && c <= 'Z' ? c + 0x20 : c);
+    };
+    return Percorre(*m_pecas, bytes.size(), letra);
+}
+
+bool Like(const QString &texto, const QString &padrao)
+{
+    return PadraoLike(padrao).Aceita(texto);
 }
 
 } // namespace plataforma

@@ -14,6 +14,7 @@ enum ErrorNumber : int {
     ErrDivisionByZero = 11,
     ErrTypeMismatch = 13, ///< a text that is no number or no date
     ErrFileNotFound = 53,
+    ErrDiskFull = 61,
     ErrFileAccess = 75, ///< a file that cannot be changed (rights)
     ErrPrinter = 482,
     ErrNoCurrentRecord = 3021,

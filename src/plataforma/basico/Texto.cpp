@@ -133,6 +133,16 @@ QString UCase(const QString &texto)
 
 QByteArray ToAnsi(const QString &texto)
 {
+    // Nearly every text has only characters that are their own bytes; looked at without a jump in the loop,
+    // many in one step.
+    unsigned todos = 0;
+    unsigned noMeio = 0;
+    for (const QChar c : texto) {
+        todos |= c.unicode();
+        noMeio |= static_cast<unsigned>((c.unicode() & 0xFFE0U) == 0x80U);
+    }
+    if (todos <= 0xFF && noMeio == 0)
+        return texto.toLatin1();
     QByteArray bytes;
     bytes.reserve(texto.size());
     for (const QChar c : texto) {

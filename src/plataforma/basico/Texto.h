@@ -1,8 +1,11 @@
 // Text rules, counted from 1.
 #pragma once
 
+#include <memory>
+#include <optional>
 #include <QByteArray>
 #include <QString>
+#include <string_view>
 
 namespace plataforma {
 
@@ -33,6 +36,24 @@ QString UCase(const QString &texto);
 /// "#" one digit, "[a-c]" one of the list, "[!a-c]" one not of the list. A "[" that is never closed stands
 /// for itself, the empty list "[]" for nothing.
 bool Like(const QString &texto, const QString &padrao);
+
+/// A pattern of Like that is read once and tried on many texts.
+class PadraoLike {
+public:
+    explicit PadraoLike(const QString &padrao);
+    ~PadraoLike();
+    PadraoLike(const PadraoLike &) = delete;
+    PadraoLike &operator=(const PadraoLike &) = delete;
+
+    [[nodiscard]] bool Aceita(const QString &texto) const;
+    /// The same for bytes of a text in any code page that has ASCII in its lower half, without reading more
+    /// of them than it takes; none where a byte of the upper half must be known.
+    [[nodiscard]] std::optional<bool> AceitaBytes(std::string_view bytes) const;
+
+private:
+    struct Pecas;
+    std::unique_ptr<const Pecas> m_pecas;
+};
 
 /// Windows-1252 bytes of a text, one a character. The five bytes that the code page leaves open
 /// (81 8D 8F 90 9D) stand for the control characters of the same number. Any other character becomes '?'.

@@ -183,6 +183,7 @@ void OcupadoDaTela::Comeca()
     if (m_nivel++ > 0)
         return;
     m_desdeOComeco.start();
+    m_modalAntes = QApplication::activeModalWidget();
     // From here on a key reaches nothing: painting may already fetch the second of two presses.
     qApp->installEventFilter(this);
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -233,7 +234,8 @@ void OcupadoDaTela::MostraBarra(const QString &oQue)
 bool OcupadoDaTela::eventFilter(QObject *objeto, QEvent *evento)
 {
     // A box that opened all the same must be answered, and what the program closes itself is closed.
-    if (QApplication::activeModalWidget() || (evento->type() == QEvent::Close && !evento->spontaneous()))
+    const QWidget *modal = QApplication::activeModalWidget();
+    if ((modal && modal != m_modalAntes) || (evento->type() == QEvent::Close && !evento->spontaneous()))
         return QObject::eventFilter(objeto, evento);
     switch (evento->type()) {
     case QEvent::KeyPress:

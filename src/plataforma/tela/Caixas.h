@@ -7,6 +7,8 @@
 #include <memory>
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 class QProgressDialog;
 
@@ -34,6 +36,7 @@ private:
     void MostraBarra(const QString &oQue);
 
     int m_nivel = 0;
+    QPointer<QWidget> m_modalAntes; ///< stood already when the work began
     std::unique_ptr<QProgressDialog> m_barra;
     QElapsedTimer m_desdeOComeco;
     QElapsedTimer m_desdeAPintura;

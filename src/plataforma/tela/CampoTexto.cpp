@@ -42,6 +42,15 @@ void CampoTexto::keyPressEvent(QKeyEvent *evento)
     QLineEdit::keyPressEvent(evento);
 }
 
+void CortaEm(QLineEdit *campo, int limite)
+{
+    if (Len(campo->text()) <= limite)
+        return;
+    const int cursor = campo->cursorPosition();
+    campo->setText(Left(campo->text(), limite));
+    campo->setCursorPosition(cursor);
+}
+
 void DeixaSoDigitos(QLineEdit *campo)
 {
     const QString digitos = OnlyDigits(campo->text());

@@ -21,6 +21,9 @@ private:
     int m_limite;
 };
 
+/// Cuts a box's text to its first `limite` characters; the caret stays where it stood.
+void CortaEm(QLineEdit *campo, int limite);
+
 /// Rebuilds the text of a box from its digits; the caret stays behind the digit that it stood behind.
 void DeixaSoDigitos(QLineEdit *campo);
 

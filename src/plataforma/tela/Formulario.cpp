@@ -1,10 +1,12 @@
 // See Formulario.h.
 #include "plataforma/tela/Formulario.h"
 
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace plataforma {
 
@@ -21,6 +23,17 @@ QLabel *Rotulo(const QString &texto, QWidget *controle)
     rotulo->setTextFormat(Qt::PlainText);
     controle->setAccessibleName(texto);
     return rotulo;
+}
+
+QGroupBox *Quadro(const QString &titulo, const std::vector<QWidget *> &dentro)
+{
+    auto *quadro = new QGroupBox(titulo);
+    auto *caixa = new QVBoxLayout(quadro);
+    caixa->setSpacing(kEspaco);
+    for (QWidget *controle : dentro)
+        caixa->addWidget(controle);
+    caixa->addStretch(1);
+    return quadro;
 }
 
 QHBoxLayout *LinhaDeBotoes(const Arranjo<QPushButton> &botoes)

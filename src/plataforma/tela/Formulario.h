@@ -4,7 +4,9 @@
 #include "plataforma/tela/Arranjo.h"
 
 #include <QString>
+#include <vector>
 
+class QGroupBox;
 class QHBoxLayout;
 class QLabel;
 class QLineEdit;
@@ -21,6 +23,8 @@ inline constexpr int kMargem = 12;
 int LarguraPara(const QLineEdit *campo, int n);
 /// A label to stand on the left of a control, aligned to it; the control is called after it.
 QLabel *Rotulo(const QString &texto, QWidget *controle);
+/// A box with its controls one below the other.
+QGroupBox *Quadro(const QString &titulo, const std::vector<QWidget *> &dentro);
 /// The buttons of a screen in one row, at its right end.
 QHBoxLayout *LinhaDeBotoes(const Arranjo<QPushButton> &botoes);
 

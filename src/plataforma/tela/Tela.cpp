@@ -3,7 +3,7 @@
 
 #include "plataforma/basico/Mensagens.h"
 #include "plataforma/basico/RuntimeError.h"
-#include "plataforma/tela/Teclas.h"
+#include "plataforma/basico/Teclas.h"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
@@ -145,9 +145,10 @@ bool Tela::Passa(QWidget *destino, bool ordenado, Qt::FocusReason razao)
     QPointer<QWidget> desvio;
     {
         const QScopedValueRollback passando(m_passando, true);
-        if (const auto antes = RegrasDe(destino).antes)
-            Guarda(antes);
-        sai = Deixa(origem, desvio);
+        const Regras doDestino = RegrasDe(destino);
+        if (doDestino.antes)
+            Guarda(doDestino.antes);
+        sai = doDestino.desiste || Deixa(origem, desvio);
     }
     if (!alvo)
         return false;

@@ -24,6 +24,7 @@ struct Regras {
     std::function<void(int)> tecla; ///< function key or arrow, by its code (Teclas.h)
     std::function<void()> clique;   ///< mouse pressed in the control, also when it has the focus
     std::function<void()> duploClique;
+    bool desiste = false; ///< a button that gives up: the field left for it is not asked
 };
 
 /// A move of the focus is from one control of the screen to another: by Tab, click, mnemonic, Enter or by a

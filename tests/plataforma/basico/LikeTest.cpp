@@ -72,6 +72,55 @@ INSTANTIATE_TEST_SUITE_P(
         CasoLike{"QuestionMarkTakesALineBreak", "a\nb", "a?b", true}),
     [](const auto &caso) { return caso.param.nome; });
 
+// A byte of the upper half may stand for a part of a character, or for one of a code page.
+TEST_P(LikeTest, MatchesTheBytesOrCannotTell)
+{
+    const QByteArray bytes = GetParam().texto.toUtf8();
+    const bool ascii = GetParam().texto.toLatin1() == bytes;
+    const std::optional<bool> casa =
+        PadraoLike(GetParam().padrao)
+            .AceitaBytes({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    EXPECT_TRUE(casa.has_value() || !ascii);
+    EXPECT_EQ(casa.value_or(GetParam().casa), GetParam().casa);
+}
+
+struct CasoBytes {
+    std::string nome;
+    const char *bytes;
+    const char *padrao;
+    std::optional<bool> casa;
+};
+void PrintTo(const CasoBytes &caso, std::ostream *os)
+{
+    *os << caso.bytes << " Like " << caso.padrao;
+}
+class AceitaBytesTest : public testing::TestWithParam<CasoBytes> {};
+
+TEST_P(AceitaBytesTest, ReadsNoMoreThanItMust)
+{
+    EXPECT_EQ(PadraoLike(GetParam().padrao).AceitaBytes(GetParam().bytes), GetParam().casa);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Bytes, AceitaBytesTest,
+    testing::Values(CasoBytes{"BeginningBeforeTheAccent", "Joa\xC3\xA3o", "jo*", true},
+                    CasoBytes{"OtherBeginningBeforeTheAccent", "Joa\xC3\xA3o", "jx*", false},
+                    CasoBytes{"BeginningUpToTheAccent", "Jo\xE3o", "jo*", true},
+                    CasoBytes{"AccentIsPartOfTheBeginning", "Jo\xE3o", "joa*", std::nullopt},
+                    CasoBytes{"AnyCharacterMayBeTwoBytes", "\xC3\xA3", "?", std::nullopt},
+                    CasoBytes{"EndBehindTheAccent", "Jo\xE3o", "*o", std::nullopt},
+                    CasoBytes{"StarAloneTakesAnything", "\xE3", "*", true},
+                    CasoBytes{"EmptyPatternTakesNoAccent", "\xE3", "", std::nullopt}),
+    [](const auto &caso) { return caso.param.nome; });
+
+TEST(PadraoLike, IsTriedOnManyTexts)
+{
+    const PadraoLike padrao("b[ae]*a");
+    EXPECT_TRUE(padrao.Aceita("Bela Vista"));
+    EXPECT_FALSE(padrao.Aceita("Bela Vistas"));
+    EXPECT_TRUE(padrao.Aceita("baa"));
+}
+
 TEST(Like, ManyStarsEndSoon)
 {
     const QString texto(20000, QLatin1Char('a'));

@@ -294,6 +294,66 @@ TEST_F(TelaTest, MnemonicPressesNothingWhenTheFieldKeepsTheFocus)
     EXPECT_EQ(Foco(m_tela), "A");
 }
 
+// A button that gives up, while a field refuses to be left.
+class BotaoQueDesiste : public TelaTest {
+protected:
+    void SetUp() override
+    {
+        TelaTest::SetUp();
+        Regras regras = m_tela.Notas("Botao");
+        regras.desiste = true;
+        m_tela.Registra(m_tela.botao, regras);
+        m_tela.aoDeixar = [](const QString &) { return false; };
+    }
+};
+
+TEST_F(BotaoQueDesiste, ClickRunsNoLeaveRuleAndPresses)
+{
+    ClicaEm(m_tela, "Botao");
+    EXPECT_EQ(m_tela.diario, QStringList({"antes Botao", "chega Botao", "clique Botao", "pressiona Botao"}));
+    EXPECT_EQ(Foco(m_tela), "Botao");
+}
+
+TEST_F(BotaoQueDesiste, MnemonicRunsNoLeaveRuleAndPresses)
+{
+    QTest::keyClick(&m_tela, Qt::Key_B, Qt::AltModifier);
+    EXPECT_EQ(m_tela.diario, QStringList({"antes Botao", "chega Botao", "pressiona Botao"}));
+    EXPECT_EQ(Foco(m_tela), "Botao");
+}
+
+TEST_F(BotaoQueDesiste, TabRunsNoLeaveRuleAndPressesNothing)
+{
+    m_tela.MoveFoco(m_tela.Campo("C"));
+    m_tela.diario.clear();
+    Tecla(m_tela, Qt::Key_Tab);
+    EXPECT_EQ(m_tela.diario, QStringList({"antes Botao", "chega Botao"}));
+    EXPECT_EQ(Foco(m_tela), "Botao");
+}
+
+TEST_F(BotaoQueDesiste, AWalkToItRunsNoLeaveRule)
+{
+    EXPECT_TRUE(m_tela.Caminha(m_tela.botao));
+    EXPECT_EQ(m_tela.diario, QStringList({"antes Botao", "chega Botao"}));
+}
+
+TEST_F(BotaoQueDesiste, OtherControlsStillAskTheFieldLeft)
+{
+    ClicaEm(m_tela, "B");
+    EXPECT_EQ(m_tela.diario, QStringList({"antes B", "deixa A"}));
+    EXPECT_EQ(Foco(m_tela), "A");
+}
+
+TEST_F(BotaoQueDesiste, LeavingItRunsItsOwnRule)
+{
+    m_tela.MoveFoco(m_tela.botao);
+    m_tela.diario.clear();
+    ClicaEm(m_tela, "A");
+    EXPECT_EQ(m_tela.diario, QStringList({"antes A", "deixa Botao"}));
+    m_tela.aoDeixar = nullptr;
+    ClicaEm(m_tela, "A");
+    EXPECT_EQ(Foco(m_tela), "A");
+}
+
 TEST_F(TelaTest, EnterOnAButtonPressesItOnceWhileHeld)
 {
     m_tela.MoveFoco(m_tela.botao);

@@ -71,6 +71,10 @@ QString Dynaset::Field(const QString &nome) const
 {
     return Aberto(m_impl).Le(nome);
 }
+Rows Dynaset::GetRows(const QStringList &campos) const
+{
+    return Aberto(m_impl).LeTudo(campos);
+}
 void Dynaset::SetField(const QString &nome, const QString &valor)
 {
     Aberto(m_impl).Poe(nome, valor);

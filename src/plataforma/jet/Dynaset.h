@@ -1,6 +1,7 @@
 // A recordset that is read row by row and can be written: current record, moves, search, add, edit, delete.
 #pragma once
 
+#include "plataforma/jet/Rows.h"
 #include <memory>
 #include <QString>
 #include <QStringList>
@@ -44,6 +45,9 @@ public:
     /// Value of a field of the current row (or of the row being added or edited).
     /// @throws RuntimeError 3021 no current record; 3265 no such field
     [[nodiscard]] QString Field(const QString &nome) const;
+    /// Values of some fields of all rows of the set, in its order, as they are stored: a row begun counts
+    /// only after Update. The current row stays. @throws RuntimeError 3265 no such field
+    [[nodiscard]] Rows GetRows(const QStringList &campos) const;
     /// Sets a field of the row being added or edited. @throws RuntimeError 3020 outside AddNew/Edit; 3265
     void SetField(const QString &nome, const QString &valor);
 

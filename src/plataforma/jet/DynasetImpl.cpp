@@ -194,6 +194,14 @@ QString Dynaset::Impl::Le(const QString &nome)
     return m_bloco.Texto(m_linha, indice);
 }
 
+Rows Dynaset::Impl::LeTudo(const QStringList &campos) const
+{
+    QList<qsizetype> indices;
+    for (const QString &campo : campos)
+        indices.append(IndiceDoCampo(campo));
+    return m_fonte->LeTudo(indices);
+}
+
 void Dynaset::Impl::Poe(const QString &nome, const QString &valor)
 {
     const qsizetype indice = IndiceDoCampo(nome);

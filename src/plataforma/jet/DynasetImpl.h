@@ -25,6 +25,7 @@ public:
     void Procura(const QString &criterio);
 
     [[nodiscard]] QString Le(const QString &nome);
+    [[nodiscard]] Rows LeTudo(const QStringList &campos) const;
     void Poe(const QString &nome, const QString &valor);
     void IniciaInclusao();
     void IniciaAlteracao();

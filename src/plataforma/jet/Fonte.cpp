@@ -37,6 +37,13 @@ private:
     bool m_propria;
 };
 
+// Adds the values of the statement's current row that begin at `primeira`.
+void JuntaValores(const Comando &comando, int primeira, qsizetype quantos, Rows &linhas)
+{
+    for (int i = 0; i < quantos; ++i)
+        linhas.Add(comando.Bytes(primeira + i));
+}
+
 } // namespace
 
 void Fonte::JuntaUma(const Lugar &lugar, Bloco &bloco)
@@ -102,6 +109,16 @@ void FontePorChave::Procura(const QString &condicao, Bloco &bloco)
     const auto procura = m_selecao.Linhas(m_selecao.Onde('(' + condicao + ')'),
                                           " order by " + m_selecao.OrdemDaChave(false) + " limit 1");
     m_selecao.Enche(*procura, bloco);
+}
+
+Rows FontePorChave::LeTudo(const QList<qsizetype> &campos)
+{
+    Rows linhas(static_cast<int>(campos.size()));
+    const auto comando = m_selecao.Campos(campos, campos.isEmpty(), m_selecao.Onde(),
+                                          " order by " + m_selecao.OrdemDaChave(false));
+    while (comando->Passo())
+        JuntaValores(*comando, 0, campos.size(), linhas);
+    return linhas;
 }
 
 FonteListada::FonteListada(const Selecao &selecao)
@@ -205,6 +222,42 @@ qint64 FonteListada::Conta()
 {
     Lista();
     return m_chaves.Tamanho() - m_quantasApagadas;
+}
+
+Rows FonteListada::LeTudo(const QList<qsizetype> &campos)
+{
+    if (m_lista)
+        return LeListando(campos);
+    Rows linhas(static_cast<int>(campos.size()));
+    const auto comando = m_selecao.Campos(campos, campos.isEmpty(), m_selecao.ChaveCompara("="), {});
+    const TransacaoDeLeitura transacao(m_selecao.Ligacao());
+    for (qsizetype i = 0; i < m_chaves.Tamanho(); ++i) {
+        if (EstaApagada(i))
+            continue;
+        comando->LigaChave(1, m_chaves.Em(i));
+        const Leitura leitura(*comando);
+        if (comando->Passo())
+            JuntaValores(*comando, 0, campos.size(), linhas);
+    }
+    return linhas;
+}
+
+// The first need of the keys: they come along with the values.
+Rows FonteListada::LeListando(const QList<qsizetype> &campos)
+{
+    const Consulta &consulta = m_selecao.Pedido();
+    const auto primeira = static_cast<int>(consulta.tabela.chave.size());
+    Rows linhas(static_cast<int>(campos.size()));
+    ListaDeChaves chaves;
+    const auto comando = m_selecao.Campos(
+        campos, true, m_selecao.Onde(), " order by " + consulta.ordem + ", " + m_selecao.OrdemDaChave(false));
+    while (comando->Passo()) {
+        chaves.Junta(m_selecao.LeChave(*comando));
+        JuntaValores(*comando, primeira, campos.size(), linhas);
+    }
+    m_chaves = std::move(chaves);
+    m_lista.reset();
+    return linhas;
 }
 
 void FonteListada::Incluida(const Chave &chave)

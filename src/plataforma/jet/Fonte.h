@@ -1,6 +1,7 @@
 // Where the rows of a dynaset come from: walked by key, or listed beforehand in an order of their own.
 #pragma once
 
+#include "Rows.h"
 #include "Selecao.h"
 #include <optional>
 
@@ -23,6 +24,8 @@ public:
     /// The first row of the set that meets a condition in SQL.
     virtual void Procura(const QString &condicao, Bloco &bloco) = 0;
     virtual qint64 Conta() = 0;
+    /// All rows of the set in its order: the fields of these indexes in the query.
+    [[nodiscard]] virtual Rows LeTudo(const QList<qsizetype> &campos) = 0;
     /// The row of one place, as it is now.
     void LeUma(const Lugar &lugar, Bloco &bloco);
 
@@ -52,6 +55,7 @@ public:
     void LeAntes(const Lugar &lugar, int quantas, Bloco &bloco) override;
     void Procura(const QString &condicao, Bloco &bloco) override;
     qint64 Conta() override { return m_selecao.Conta(); }
+    [[nodiscard]] Rows LeTudo(const QList<qsizetype> &campos) override;
     void Incluida(const Chave &) override {}
     void Alterada(const Lugar &, const Chave &) override {}
     void Apagada(const Lugar &) override {}
@@ -79,6 +83,7 @@ public:
     void LeAntes(const Lugar &lugar, int quantas, Bloco &bloco) override;
     void Procura(const QString &condicao, Bloco &bloco) override;
     qint64 Conta() override;
+    [[nodiscard]] Rows LeTudo(const QList<qsizetype> &campos) override;
     void Incluida(const Chave &chave) override;
     void Alterada(const Lugar &lugar, const Chave &nova) override;
     void Apagada(const Lugar &lugar) override;
@@ -87,6 +92,7 @@ public:
 
 private:
     void JuntaChaves(Comando &comando);
+    Rows LeListando(const QList<qsizetype> &campos);
     void Percorre(qsizetype inicio, int passo, int quantas, Bloco &bloco);
     [[nodiscard]] bool EstaApagada(qsizetype indice) const;
 

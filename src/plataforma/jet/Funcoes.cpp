@@ -15,10 +15,15 @@ namespace {
 
 using Argumentos = std::span<sqlite3_value *const>;
 
-QString TextoDe(sqlite3_value *valor)
+std::string_view BytesDe(sqlite3_value *valor)
 {
     const auto *bytes = reinterpret_cast<const char *>(sqlite3_value_text(valor));
-    return TextoGravado({bytes, bytes ? static_cast<std::size_t>(sqlite3_value_bytes(valor)) : 0});
+    return {bytes, bytes ? static_cast<std::size_t>(sqlite3_value_bytes(valor)) : 0};
+}
+
+QString TextoDe(sqlite3_value *valor)
+{
+    return TextoGravado(BytesDe(valor));
 }
 
 qsizetype InteiroDe(sqlite3_value *valor)
@@ -32,9 +37,14 @@ void DaTexto(sqlite3_context *contexto, const QString &texto)
     sqlite3_result_text(contexto, utf8.constData(), static_cast<int>(utf8.size()), SQLITE_TRANSIENT);
 }
 
+// Every row of a search comes through here.
 void FazLeft(sqlite3_context *c, Argumentos a)
 {
-    DaTexto(c, Left(TextoDe(a[0]), InteiroDe(a[1])));
+    const qsizetype n = InteiroDe(a[1]);
+    const auto inicio = n < 0 ? std::nullopt : InicioGravado(BytesDe(a[0]), static_cast<std::size_t>(n));
+    if (!inicio)
+        return DaTexto(c, Left(TextoDe(a[0]), n));
+    sqlite3_result_text(c, inicio->data(), static_cast<int>(inicio->size()), SQLITE_TRANSIENT);
 }
 void FazRight(sqlite3_context *c, Argumentos a)
 {
@@ -52,9 +62,22 @@ void FazVal(sqlite3_context *c, Argumentos a)
 {
     sqlite3_result_double(c, Val(TextoDe(a[0])));
 }
+
+bool Combina(const PadraoLike &padrao, sqlite3_value *valor)
+{
+    const std::optional<bool> peloInicio = padrao.AceitaBytes(BytesDe(valor));
+    return peloInicio ? *peloInicio : padrao.Aceita(TextoDe(valor));
+}
+
+// The engine keeps the pattern read from one row to the next where it is the same for all rows.
 void FazLike(sqlite3_context *c, Argumentos a)
 {
-    sqlite3_result_int(c, Like(TextoDe(a[0]), TextoDe(a[1])));
+    constexpr int PADRAO = 1;
+    if (const auto *lido = static_cast<const PadraoLike *>(sqlite3_get_auxdata(c, PADRAO)))
+        return sqlite3_result_int(c, Combina(*lido, a[0]));
+    auto padrao = std::make_unique<PadraoLike>(TextoDe(a[PADRAO]));
+    sqlite3_result_int(c, Combina(*padrao, a[0]));
+    sqlite3_set_auxdata(c, PADRAO, padrao.release(), [](void *p) { delete static_cast<PadraoLike *>(p); });
 }
 
 void FazMid(sqlite3_context *c, Argumentos a)

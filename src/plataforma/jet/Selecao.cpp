@@ -60,6 +60,17 @@ std::unique_ptr<Comando> Selecao::Chaves(const QString &onde, const QString &res
                                                      Tabela() + filtro + resto);
 }
 
+std::unique_ptr<Comando> Selecao::Campos(const QList<qsizetype> &campos, bool comChave, const QString &onde,
+                                         const QString &resto) const
+{
+    QStringList lista = comChave ? m_consulta.tabela.chave : QStringList();
+    for (const qsizetype campo : campos)
+        lista.append(NomeCitado(m_consulta.tabela.colunas[m_consulta.campos[campo].coluna].nome));
+    const QString filtro = onde.isEmpty() ? QString() : " where " + onde;
+    return std::make_unique<Comando>(*m_conexao,
+                                     "select " + Juntas(lista) + " from " + Tabela() + filtro + resto);
+}
+
 qint64 Selecao::Conta() const
 {
     const QString filtro = m_consulta.condicao.isEmpty() ? QString() : " where " + m_consulta.condicao;

@@ -28,6 +28,10 @@ public:
     [[nodiscard]] std::unique_ptr<Comando> Linhas(const QString &onde, const QString &resto) const;
     /// The same with the key alone.
     [[nodiscard]] std::unique_ptr<Comando> Chaves(const QString &onde, const QString &resto) const;
+    /// "select fields from table", the fields given as indexes of the query's own, with the key before them
+    /// or without it.
+    [[nodiscard]] std::unique_ptr<Comando> Campos(const QList<qsizetype> &campos, bool comChave,
+                                                  const QString &onde, const QString &resto) const;
     [[nodiscard]] qint64 Conta() const;
 
     /// Index of the first parameter behind the key.

@@ -339,6 +339,59 @@ TEST_F(LojaCheia, AColumnWithASqlNameIsOnlyAName)
     EXPECT_EQ(d->FieldNames().join('|'), QString("select|a\"b|rowid|ação"));
 }
 
+TEST_F(LojaCheia, APatternOutOfAFieldIsReadForEachRow)
+{
+    Executa(
+        "insert into Cidade values ('b*', 'Belo'), ('r*', 'Belo'), ('?e*', 'Recife'), ('[a-c]*', 'Natal'), "
+        "('*', NULL), (NULL, 'x')");
+    EXPECT_EQ(Codigos("Select * From Cidade Where Nome Like Codigo Order by Codigo"), "?e* b*");
+}
+
+TEST_F(LojaCheia, PatternsOfOneQueryAreNotMixedUp)
+{
+    EXPECT_EQ(Codigos("Select * From Bancos Where Nome Like 'ban*' And Nome Like '*sul' Or Codigo Like '1*'"),
+              "104 237");
+}
+
+namespace {
+
+// 'José da' and 'JOSÉ di' in Windows-1252, 'josé de' in UTF-8.
+class LojaDeDoisCodigos : public LojaCheia {
+protected:
+    LojaDeDoisCodigos()
+    {
+        Executa(
+            "insert into Cidade values ('1', cast(x'4A6F73E9206461' as text)), ('2', 'josé de'), "
+            "('3', cast(x'4A4F53C9206469' as text)), ('4', 'jose da'), ('5', x''), ('6', NULL), ('7', '')");
+    }
+};
+
+} // namespace
+
+TEST_F(LojaDeDoisCodigos, LeftCountsCharactersInEither)
+{
+    EXPECT_EQ(Codigos("Select * From Cidade Where (Left(Nome,4)='josé') Order by Nome"), "1 2 3");
+    EXPECT_EQ(Codigos("Select * From Cidade Where (Left(Nome,6)='josé d') Order by Codigo"), "1 2 3");
+    EXPECT_EQ(Codigos("Select * From Cidade Where (Left(Nome,7)='JOSÉ DE')"), "2");
+    EXPECT_EQ(Codigos("Select * From Cidade Where (Left(Nome,3)='jos') Order by Codigo"), "1 2 3 4");
+}
+
+TEST_F(LojaDeDoisCodigos, LeftOfNothingIsEmptyAndOfNullIsNull)
+{
+    EXPECT_EQ(Codigos("Select * From Cidade Where (Left(Nome,2)='') Order by Codigo"), "5 7");
+    EXPECT_EQ(Codigos("Select * From Cidade Where (Left(Nome,0)='') Order by Codigo"), "1 2 3 4 5 7");
+    EXPECT_EQ(Codigos("Select * From Cidade Where Left(Nome,2) Is Null"), "6");
+}
+
+TEST_F(LojaDeDoisCodigos, LikeReadsEither)
+{
+    EXPECT_EQ(Codigos("Select * From Cidade Where Nome Like ('josé*') Order by Codigo"), "1 2 3");
+    EXPECT_EQ(Codigos("Select * From Cidade Where Nome Like ('jos*') Order by Codigo"), "1 2 3 4");
+    EXPECT_EQ(Codigos("Select * From Cidade Where Nome Like 'jos? d?' Order by Codigo"), "1 2 3 4");
+    EXPECT_EQ(Codigos("Select * From Cidade Where Nome Like '*a' Order by Codigo"), "1 4");
+    EXPECT_EQ(Codigos("Select * From Cidade Where Nome Like '' Order by Codigo"), "5 7");
+}
+
 // Answers of independent software, one row a case.
 TEST_F(LojaCheia, LikeGivesTheAnswersOfOtherSoftware)
 {

@@ -4,6 +4,7 @@
 
 using namespace loja;
 using plataforma::jet::ComparaPortugues;
+using plataforma::jet::InicioGravado;
 using plataforma::jet::TextoGravado;
 
 namespace {
@@ -55,6 +56,9 @@ INSTANTIATE_TEST_SUITE_P(Textos, ComparaPortuguesTest,
                                          CasoOrdem{"ZeroByteCounts", "a\0a"sv, "a\0b"sv, -1},
                                          CasoOrdem{"BareAnsiByteIsItsLetter", "S\xE3o", "são", 0},
                                          CasoOrdem{"CutSequenceIsItsAnsiLetter", "\xC3", "\xC3\xA3", 0},
+                                         CasoOrdem{"AsciiBehindAnAccent", "São Paulo", "são PEDRO", -1},
+                                         CasoOrdem{"AccentAgainstPunctuation", "a-", "aé", -1},
+                                         CasoOrdem{"AnsiByteAgainstUtf8", "JOS\xC9 b", "josé a", 1},
                                          CasoOrdem{"OverlongFormIsNoLetter", "\xC1\xA1", "a", 1}),
                          [](const auto &caso) { return caso.param.nome; });
 
@@ -73,6 +77,60 @@ TEST(TextoGravado, KeepsAReplacementCharacterThatIsStored)
 TEST(TextoGravado, AnEmptyTextIsNotNull)
 {
     EXPECT_FALSE(TextoGravado({}).isNull());
+}
+
+namespace {
+
+struct CasoInicio {
+    std::string nome;
+    std::string_view bytes;
+    bool utf8; // whether every beginning is a stretch of the bytes
+};
+void PrintTo(const CasoInicio &c, std::ostream *os)
+{
+    *os << c.bytes;
+}
+
+class InicioGravadoTest : public testing::TestWithParam<CasoInicio> {};
+
+} // namespace
+
+TEST_P(InicioGravadoTest, IsTheBeginningOfTheText)
+{
+    const QString texto = TextoGravado(GetParam().bytes);
+    for (qsizetype n = 0; n <= texto.size() + 2; ++n) {
+        const auto inicio = InicioGravado(GetParam().bytes, static_cast<std::size_t>(n));
+        if (inicio)
+            EXPECT_EQ(*inicio, texto.left(n).toUtf8().toStdString()) << n;
+        else
+            EXPECT_FALSE(GetParam().utf8) << n;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Textos, InicioGravadoTest,
+                         testing::Values(CasoInicio{"Empty", "", true}, CasoInicio{"Ascii", "Banco", true},
+                                         CasoInicio{"ZeroByte", "a\0b"sv, true},
+                                         CasoInicio{"Accents", "São João ção", true},
+                                         CasoInicio{"AccentFirst", "Álvaro", true},
+                                         CasoInicio{"Euro", "a€b", true},
+                                         CasoInicio{"TwoUnitsInTheMiddle", "a\xF0\x9F\x98\x80z", false},
+                                         CasoInicio{"Windows1252", "Jos\xE9 e \x80", false},
+                                         CasoInicio{"Windows1252BehindAccents", "S\xC3\xA3o Jos\xE9", false},
+                                         CasoInicio{"CutAtTheEnd", "S\xC3\xA3o\xC3", false},
+                                         CasoInicio{"OverlongForm", "\xC1\xA1 a", false},
+                                         CasoInicio{"HalfOfAPair", "\xED\xA0\x80z", false},
+                                         CasoInicio{"ByteOrderMark", "\xEF\xBB\xBFS\xC3\xA3o", false},
+                                         CasoInicio{"ReplacementCharacter", "\xEF\xBF\xBD\xC3\xA3", true}),
+                         [](const auto &caso) { return caso.param.nome; });
+
+// Half of a character of two units is no text of its own: it must be made to know what stands for it.
+TEST(InicioGravado, DoesNotCutACharacterOfTwoUnits)
+{
+    const std::string_view texto = "a\xF0\x9F\x98\x80z";
+    EXPECT_EQ(InicioGravado(texto, 1), "a");
+    EXPECT_EQ(InicioGravado(texto, 2), std::nullopt);
+    EXPECT_EQ(InicioGravado(texto, 3), texto.substr(0, 5));
+    EXPECT_EQ(InicioGravado(texto, 4), texto);
 }
 
 namespace {

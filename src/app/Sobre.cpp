@@ -46,7 +46,7 @@ void Sobre::MontaControles(const QString &tituloDeMain, bool abertura)
 {
     const QStringList linhas = {tituloDeMain,
                                 QString(),
-                                QStringLiteral("Mira Equipamentos para Documentos"),
+                                nucleo::kFabricante,
                                 QString(),
                                 QStringLiteral("Versão 5.5 - Out/99"),
                                 QStringLiteral("www.mira.example"),

@@ -13,6 +13,7 @@ using plataforma::Resposta;
 
 /// Texts that several screens say.
 inline const QString kErro = QStringLiteral("Erro");
+inline const QString kFabricante = QStringLiteral("Mira Equipamentos para Documentos");
 inline const QString kTamanhoMaximo = QStringLiteral("Tamanho Máximo deste campo...");
 
 } // namespace nucleo

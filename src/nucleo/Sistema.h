@@ -5,6 +5,7 @@
 #include "nucleo/Indicador.h"
 #include "nucleo/QX_INI.h"
 
+#include <array>
 #include <cstdint>
 #include <QString>
 
@@ -43,6 +44,10 @@ public:
     std::int16_t TipoPesquisa = 0;
     QString TextoPesquisa;
     QString NomeListagem;
+    /// The adjustment buffer: a register fills it before it opens its graphic screen. Lines and columns of a
+    /// layout from 1 on, so that `L1` stands at 0.
+    std::array<QString, 8> AjusteL;
+    std::array<QString, 11> AjusteC;
     QString ValorExtenso;
     QString MesExtenso;
     QString ComentarioLinha1, ComentarioLinha2, ComentarioLinha3;

@@ -66,8 +66,7 @@ void EnviaFormatado(const QString &texto, int modo, QString &portaSerial, Impres
 {
     impressora.SinalizaPorta(1);
     if (impressora.IniciaPorta(portaSerial) == kPortaFechada) {
-        mensagens.MsgBox(QStringLiteral("Erro de comunicação com a impressora."), nucleo::Botoes::Ok,
-                         nucleo::Icone::Pare);
+        mensagens.MsgBox(kErroDeComunicacao, nucleo::Botoes::Ok, nucleo::Icone::Pare);
         return;
     }
     impressora.TravaDoc(1);

@@ -8,10 +8,12 @@
 
 namespace device {
 
+inline const QString kErroDeComunicacao = QStringLiteral("Erro de comunicação com a impressora.");
+
 /// In every flow `portaSerial` is the port name, which the library may rewrite.
 
-/// Sends a whole free text as one call, `modo` 2 or 3. Failures are told to the operator here.
-/// When the text is refused the port stays open and the document held.
+/// Sends a whole free text as one call, `modo` 1 to 3 (136, 96, 80 columns). Failures are told to the
+/// operator here. When the text is refused the port stays open and the document held.
 void EnviaFormatado(const QString &texto, int modo, QString &portaSerial, Impressora &impressora,
                     nucleo::Mensagens &mensagens);
 

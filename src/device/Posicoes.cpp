@@ -65,9 +65,14 @@ bool ColunasNaFaixa(const TextosDoBanco &textos)
 
 } // namespace
 
+bool IsentoDasPosicoes(const QString &codigo)
+{
+    return Val(codigo) >= kPrimeiroBancoIsento;
+}
+
 bool VerificaPosicoes(const TextosDoBanco &textos)
 {
-    if (Val(textos.at(0)) >= kPrimeiroBancoIsento)
+    if (IsentoDasPosicoes(textos.at(0)))
         return true;
     return EmOrdem(textos) && LinhasNaFaixa(textos) && ColunasNaFaixa(textos);
 }

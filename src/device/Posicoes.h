@@ -15,6 +15,9 @@ inline const QString kErroDePosicoes =
                    "Verifique se os mesmos estão corretos.");
 inline const QString kTituloDeErroDePosicoes = QStringLiteral("QX70 Printer Error");
 
+/// Bank numbers from 995 on are bound by no rule of positions.
+bool IsentoDasPosicoes(const QString &codigo);
+
 /// Whether the layout may go to the device. Bank numbers from 995 on are exempt.
 bool VerificaPosicoes(const TextosDoBanco &textos);
 

@@ -4,6 +4,7 @@
 #include "app/ajuda/Ajuda.h"
 #include "app/Aplicacao.h"
 #include "cheques/EntradaCheque.h"
+#include "plataforma/tela/Lista.h"
 #include "plataforma/tela/Tela.h"
 
 #include <cstdio>
@@ -12,6 +13,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
@@ -75,6 +77,89 @@ void PreencheCmpExtra(QWidget &tela)
     tela.findChild<QLineEdit *>(QStringLiteral("PosText(1)"))->setText(QStringLiteral("40"));
 }
 
+// Clicks the nth row of a register's list, from 0.
+void EscolheNaLista(QWidget &tela, int linha)
+{
+    auto *lista = tela.findChild<plataforma::Lista *>(QStringLiteral("List1"));
+    lista->PoeCorrente(linha);
+    Q_EMIT lista->Clicada();
+}
+
+// The graphic adjustment of the first bank.
+bool DesenhaAjuste(app::Main &main, const QString &arquivo)
+{
+    main.findChild<QAction *>(QStringLiteral("subChequeNormal"))->trigger();
+    QCoreApplication::processEvents();
+    auto *bancos = main.findChild<QWidget *>(QStringLiteral("Bancos"));
+    EscolheNaLista(*bancos, 0);
+    bancos->findChild<QAbstractButton *>(QStringLiteral("Command3D2"))->click();
+    QCoreApplication::processEvents();
+    auto *ajuste = bancos->findChild<QWidget *>(QStringLiteral("Ajusta"));
+    ajuste->findChild<QWidget *>(QStringLiteral("Text1(3)"))->setFocus();
+    QCoreApplication::processEvents();
+    const bool gravou = ajuste->grab().save(arquivo);
+    bancos->close();
+    return gravou;
+}
+
+// A screen that stands over the list of the cheques, opened by its button there.
+bool DesenhaSobreRelato(app::Main &main, const QString &botao, const QString &nome, const QString &arquivo,
+                        const std::function<void(QWidget &)> &prepara)
+{
+    main.findChild<QAction *>(QStringLiteral("Relat"))->trigger();
+    QCoreApplication::processEvents();
+    auto *relato = main.findChild<QWidget *>(QStringLiteral("Relato"));
+    relato->findChild<QAbstractButton *>(botao)->click();
+    QCoreApplication::processEvents();
+    auto *tela = relato->findChild<QWidget *>(nome);
+    prepara(*tela);
+    QCoreApplication::processEvents();
+    const bool gravou = tela->grab().save(arquivo);
+    relato->close();
+    return gravou;
+}
+
+void PreencheFiltro(QWidget &tela)
+{
+    const auto poe = [&tela](const char *campo, const QString &texto) {
+        auto *caixa = tela.findChild<QLineEdit *>(QLatin1String(campo));
+        caixa->setFocus();
+        QCoreApplication::processEvents();
+        caixa->setText(texto);
+    };
+    poe("Text1(0)", QStringLiteral("1"));
+    poe("Text1(1)", QStringLiteral("011126"));
+    poe("Text1(2)", QStringLiteral("301126"));
+    poe("Text1(3)", QStringLiteral("100"));
+    poe("Text1(4)", QStringLiteral("99999,99"));
+    poe("Text1(7)", QStringLiteral("nota fiscal"));
+}
+
+// F3 in a field of the main screen, and some letters typed in the popup.
+bool DesenhaPesquisa(app::Main &main, const QString &campo, const QString &letras, const QString &arquivo)
+{
+    auto *caixa = main.findChild<QLineEdit *>(campo);
+    caixa->setFocus();
+    QKeyEvent f3(QEvent::KeyPress, Qt::Key_F3, Qt::NoModifier);
+    QCoreApplication::sendEvent(caixa, &f3);
+    auto *tela = main.findChild<QWidget *>(QStringLiteral("Pesquisa"));
+    QCoreApplication::processEvents();
+    tela->findChild<QLineEdit *>(QStringLiteral("Text1"))->setText(letras);
+    tela->findChild<plataforma::Lista *>(QStringLiteral("List1"))->PoeCorrente(0);
+    QCoreApplication::processEvents();
+    const bool gravou = tela->grab().save(arquivo);
+    tela->close();
+    return gravou;
+}
+
+void PreencheConfigura(QWidget &tela)
+{
+    tela.findChild<QLineEdit *>(QStringLiteral("Text2(0)"))->setText(QStringLiteral("07"));
+    tela.findChild<QLineEdit *>(QStringLiteral("Text2(1)"))
+        ->setText(QString::fromUtf8("Companhia de Águas e Energia de São João da Boa V"));
+    tela.findChild<QAbstractButton *>(QStringLiteral("Option3D2"))->click();
+}
+
 } // namespace
 
 int main(int quantos, char **argumentos)
@@ -109,8 +194,27 @@ int main(int quantos, char **argumentos)
     };
     gravou = Desenha(tela, QStringLiteral("CpoX"), QStringLiteral("CmpExtra"),
                      arquivo(QStringLiteral("cmpextra")), PreencheCmpExtra) &&
+             Desenha(tela, QStringLiteral("Conf_Qx70"), QStringLiteral("Configura"),
+                     arquivo(QStringLiteral("configura")), PreencheConfigura) &&
              Desenha(tela, QStringLiteral("MOpSoft"), QStringLiteral("OpSoft"),
                      arquivo(QStringLiteral("opsoft")), [](QWidget &) {}) &&
+             Desenha(tela, QStringLiteral("subChequeNormal"), QStringLiteral("Bancos"),
+                     arquivo(QStringLiteral("bancos")), [](QWidget &w) { EscolheNaLista(w, 0); }) &&
+             Desenha(tela, QStringLiteral("Favor"), QStringLiteral("Favorec"),
+                     arquivo(QStringLiteral("favorec")), [](QWidget &w) { EscolheNaLista(w, 2); }) &&
+             Desenha(tela, QStringLiteral("Cidad"), QStringLiteral("Cidade"),
+                     arquivo(QStringLiteral("cidade")), [](QWidget &) {}) &&
+             Desenha(tela, QStringLiteral("Relat"), QStringLiteral("Relato"),
+                     arquivo(QStringLiteral("relato")), [](QWidget &w) { EscolheNaLista(w, 1); }) &&
+             DesenhaSobreRelato(tela, QStringLiteral("SSCommand6"), QStringLiteral("Filtro"),
+                                arquivo(QStringLiteral("filtro")), PreencheFiltro) &&
+             DesenhaSobreRelato(tela, QStringLiteral("SSCommand4"), QStringLiteral("ExcluiRel"),
+                                arquivo(QStringLiteral("excluirel")), [](QWidget &) {}) &&
+             Desenha(tela, QStringLiteral("Can_Rel"), QStringLiteral("CanRel"),
+                     arquivo(QStringLiteral("canrel")), [](QWidget &) {}) &&
+             DesenhaAjuste(tela, arquivo(QStringLiteral("ajusta"))) &&
+             DesenhaPesquisa(tela, QStringLiteral("Text1(2)"), QStringLiteral("Ma"),
+                             arquivo(QStringLiteral("pesquisa"))) &&
              gravou;
     app::Ajuda ajuda;
     ajuda.Mostra(QStringLiteral("Teclas"));

@@ -6,6 +6,7 @@
 #include "app/Sobre.h"
 #include "cheques/CmpExtra.h"
 #include "cheques/EntradaCheque.h"
+#include "device/Configura.h"
 #include "housekeeping/Expurgo.h"
 #include "housekeeping/OpSoft.h"
 #include "nucleo/Instalacao.h"
@@ -14,6 +15,13 @@
 #include "plataforma/basico/Dir.h"
 #include "plataforma/basico/Numero.h"
 #include "plataforma/basico/Texto.h"
+#include "registers/Bancos.h"
+#include "registers/Cidade.h"
+#include "registers/Favorec.h"
+#include "registers/Pesquisa.h"
+#include "reports/CanRel.h"
+#include "reports/Relato.h"
+#include "reports/Saida.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -60,7 +68,9 @@ Main::~Main() = default;
 void Main::MontaControles()
 {
     cheques::Aberturas aberturas;
+    aberturas.pesquisa = [this](QWidget *campo) { AbrePesquisa(campo); };
     aberturas.camposExtras = [this] { AbreAoLado(m_cmpExtra); };
+    aberturas.relatorio = [this] { AbreRelato(); };
     aberturas.dica = [this](const QString &texto) { m_panel3D2->setText(texto); };
     m_entrada = new cheques::EntradaCheque(m_sistema, *this, aberturas);
     m_image1 = new QLabel;
@@ -121,7 +131,8 @@ void Main::MontaMenu()
     m_menu = new QMenuBar(this);
     QMenu *arquivo = m_menu->addMenu(QStringLiteral("&Arquivo"));
     arquivo->menuAction()->setObjectName(QStringLiteral("arq"));
-    Entra(arquivo, QStringLiteral("Conf_Qx70"), QStringLiteral("C&onfigurações"));
+    Entra(arquivo, QStringLiteral("Conf_Qx70"), QStringLiteral("C&onfigurações"),
+          [this] { AbreConfigura(); });
     Entra(arquivo, QStringLiteral("MOpSoft"), QStringLiteral("Opções do Sof&tware"),
           [this] { AbreAoLado(m_opSoft); });
     Entra(arquivo, QStringLiteral("Sair"), QStringLiteral("&Sair"), [this] { close(); });
@@ -129,11 +140,13 @@ void Main::MontaMenu()
     QMenu *cadastro = m_menu->addMenu(QStringLiteral("&Cadastro"));
     QMenu *bancos = cadastro->addMenu(QStringLiteral("&Bancos"));
     bancos->menuAction()->setObjectName(QStringLiteral("Bank"));
-    Entra(bancos, QStringLiteral("subChequeNormal"), QStringLiteral("Para Impressão de Cheque &Normal"));
+    Entra(bancos, QStringLiteral("subChequeNormal"), QStringLiteral("Para Impressão de Cheque &Normal"),
+          [this] { AbreCadastro(m_bancos); });
     Entra(bancos, QStringLiteral("subChequeTransferencia"),
           QStringLiteral("Para Impressão de Cheque &Transferência"));
-    Entra(cadastro, QStringLiteral("Favor"), QStringLiteral("&Favorecidos"));
-    Entra(cadastro, QStringLiteral("Cidad"), QStringLiteral("&Cidades"));
+    Entra(cadastro, QStringLiteral("Favor"), QStringLiteral("&Favorecidos"),
+          [this] { AbreCadastro(m_favorec); });
+    Entra(cadastro, QStringLiteral("Cidad"), QStringLiteral("&Cidades"), [this] { AbreCadastro(m_cidade); });
     Entra(cadastro, QStringLiteral("CpoX"), QStringLiteral("Campo &Extra"),
           [this] { AbreAoLado(m_cmpExtra); });
     Entra(cadastro, QStringLiteral("Layout"), QStringLiteral("&Layout de Cópia"));
@@ -146,7 +159,9 @@ void Main::MontaMenu()
     Entra(impressao, QStringLiteral("CopiaCheque"), QStringLiteral("Cópia do C&heque"));
     Entra(impressao, QStringLiteral("Verso"), QStringLiteral("&Verso do Cheque"),
           [this] { m_entrada->ImprimeVerso(); });
-    Entra(impressao, QStringLiteral("Relat"), QStringLiteral("&Relatório"));
+    Entra(impressao, QStringLiteral("Relat"), QStringLiteral("&Relatório"), [this] { AbreRelato(); });
+    Entra(impressao, QStringLiteral("Can_Rel"), QStringLiteral("Cance&la Relatório"),
+          [this] { AbreAoLado(m_canRel); });
 
     QMenu *ajuda = m_menu->addMenu(QStringLiteral("Aju&da"));
     Entra(ajuda, QStringLiteral("Topicos"), QStringLiteral("Aj&uda do Sofware QX-70 Mira"),
@@ -289,15 +304,74 @@ template <class T> void Main::AbreAoLado(QPointer<T> &tela)
     Abre(tela, [this] { return new T(m_sistema, this); });
 }
 
+template <class T> void Main::AbreCadastro(QPointer<T> &tela)
+{
+    Abre(tela, [this] {
+        return new T(
+            m_sistema, [this](QWidget *sobre, const QString &legenda) { AbreSaida(sobre, legenda); }, this);
+    });
+}
+
 template <class T, class F> void Main::Abre(QPointer<T> &tela, F cria)
 {
     if (!tela || !tela->isVisible()) {
         delete tela; // one that was closed and is about to go
         tela = cria();
+        // It found no store, and has said so.
+        if (std::exchange(m_sistema.FechaTela, std::int16_t{0}) != 0) {
+            delete tela;
+            return;
+        }
     }
     tela->show();
     tela->raise();
     tela->activateWindow();
+}
+
+void Main::AbrePesquisa(QWidget *campo)
+{
+    // One that stands open for another field shows another table.
+    if (m_pesquisa && m_pesquisa->Tipo() != m_sistema.TipoPesquisa)
+        m_pesquisa->close();
+    Abre(m_pesquisa, [this, campo] {
+        auto *pesquisa = new registers::Pesquisa(
+            m_sistema, [this](int tipo) { AbreCadastroDoTipo(tipo); }, this);
+        // The choice must not land in a field that was clicked meanwhile.
+        connect(pesquisa, &registers::Pesquisa::Fechou, this, [this, campo] { MoveFoco(campo); });
+        return pesquisa;
+    });
+}
+
+void Main::AbreCadastroDoTipo(int tipo)
+{
+    if (tipo == SelFavorecido)
+        AbreCadastro(m_favorec);
+    else if (tipo == SelCidade)
+        AbreCadastro(m_cidade);
+    else
+        AbreCadastro(m_bancos);
+}
+
+void Main::AbreRelato()
+{
+    reports::Reimpressao reimpressao;
+    reimpressao.campo = [this](int indice, const QString &texto) { m_entrada->PoeCampo(indice, texto); };
+    reimpressao.nomeDoBanco = [this](const QString &nome) { m_entrada->PoeNomeDoBanco(nome); };
+    reimpressao.incluiNoRelatorio = [this](bool inclui) { m_entrada->MarcaInclusao(inclui); };
+    reimpressao.linha = [this](int indice, const QString &texto) { m_entrada->PoeLinha(indice, texto); };
+    Abre(m_relato, [&] { return new reports::Relato(m_sistema, reimpressao, this); });
+}
+
+void Main::AbreSaida(QWidget *sobre, const QString &legenda)
+{
+    Abre(m_saida, [&] { return new reports::Saida(m_sistema, legenda, sobre); });
+}
+
+void Main::AbreConfigura()
+{
+    AbreAoLado(m_configura);
+    // The screen has taken the port from the settings: the one shown is the one in use.
+    m_label4->setText(m_sistema.PortaSerial);
 }
 
 void Main::MostraAjuda(const QString &topico)

@@ -21,12 +21,26 @@ namespace cheques {
 class CmpExtra;
 class EntradaCheque;
 } // namespace cheques
+namespace device {
+class Configura;
+}
 namespace housekeeping {
 class OpSoft;
 }
 namespace nucleo {
 class Sistema;
 }
+namespace registers {
+class Bancos;
+class Cidade;
+class Favorec;
+class Pesquisa;
+} // namespace registers
+namespace reports {
+class CanRel;
+class Relato;
+class Saida;
+} // namespace reports
 
 namespace app {
 
@@ -68,7 +82,13 @@ private:
     void MostraLogo(const QString &nomeNoDisco, const QString &procurado);
     void ConfiguraInicial();
     template <class T> void AbreAoLado(QPointer<T> &tela);
+    template <class T> void AbreCadastro(QPointer<T> &tela);
     template <class T, class F> void Abre(QPointer<T> &tela, F cria);
+    void AbreConfigura();
+    void AbrePesquisa(QWidget *campo);
+    void AbreCadastroDoTipo(int tipo);
+    void AbreRelato();
+    void AbreSaida(QWidget *sobre, const QString &legenda);
     void MostraAjuda(const QString &topico);
     void AbreSobre();
     void GravaInRel();
@@ -81,7 +101,15 @@ private:
     QLabel *m_image1 = nullptr;
     QProgressBar *m_gauge1 = nullptr;
     QTimer *m_timer1 = nullptr;
+    QPointer<registers::Bancos> m_bancos;
+    QPointer<registers::Favorec> m_favorec;
+    QPointer<registers::Cidade> m_cidade;
+    QPointer<registers::Pesquisa> m_pesquisa;
+    QPointer<reports::CanRel> m_canRel;
+    QPointer<reports::Relato> m_relato;
+    QPointer<reports::Saida> m_saida;
     QPointer<cheques::CmpExtra> m_cmpExtra;
+    QPointer<device::Configura> m_configura;
     QPointer<housekeeping::OpSoft> m_opSoft;
     QPointer<Sobre> m_sobre; ///< the one box: splash first, About later
     std::int16_t m_logoAlternado = 1;

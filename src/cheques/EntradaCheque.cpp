@@ -224,7 +224,7 @@ void EntradaCheque::TeclaNoCampo(int indice, int tecla)
             {CampoBanco, SelBancos}, {CampoFavorecido, SelFavorecido}, {CampoCidade, SelCidade}};
         if (const auto tipo = tipos.find(indice); tipo != tipos.end()) {
             m_sistema.TipoPesquisa = static_cast<std::int16_t>(tipo->second);
-            m_aberturas.pesquisa();
+            m_aberturas.pesquisa(m_text1(indice));
         }
     }
 }
@@ -293,6 +293,16 @@ void EntradaCheque::PoeCampo(int indice, const QString &texto)
 {
     if (m_text1.Tem(indice))
         m_text1(indice)->setText(texto);
+}
+
+void EntradaCheque::PoeNomeDoBanco(const QString &nome)
+{
+    m_label1(kNomeDoBanco)->setText(nome);
+}
+
+void EntradaCheque::PoeLinha(int indice, const QString &texto)
+{
+    m_text2(indice)->setText(texto);
 }
 
 void EntradaCheque::SelecionaFormaDaData(int digitos)

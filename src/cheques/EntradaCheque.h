@@ -27,7 +27,8 @@ namespace cheques {
 
 /// The screens that the entry opens. One that is not set leaves its button disabled.
 struct Aberturas {
-    std::function<void()> pesquisa;            ///< for `TipoPesquisa`
+    /// For `TipoPesquisa`; when it closes, the focus goes back to the field.
+    std::function<void(QWidget *campo)> pesquisa;
     std::function<void()> camposExtras;        ///< CmpExtra
     std::function<void()> relatorio;           ///< Relato
     std::function<void()> prazo;               ///< ChePrz
@@ -60,6 +61,10 @@ public:
     void AbreCopia();
     /// Sets `Text1(indice)` as a program does; the Change rule applies. Indices without a field are ignored.
     void PoeCampo(int indice, const QString &texto);
+    /// The name under "Nome do Banco", of a bank that was looked up elsewhere.
+    void PoeNomeDoBanco(const QString &nome);
+    /// Sets `Text2(indice)` in the same way.
+    void PoeLinha(int indice, const QString &texto);
     /// Selects the date form of a stored `ConfiguraData`; the click rule runs. Any number but 1, 2 and 4:
     /// none.
     void SelecionaFormaDaData(int digitos);

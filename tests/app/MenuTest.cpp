@@ -84,7 +84,8 @@ INSTANTIATE_TEST_SUITE_P(
         CasoMenu{"Printing", QString::fromUtf8("&Impressão"), "",
                  QString::fromUtf8("Imp_Cheque=&Cheque|Imp_ChequeTransf=Cheque &Transferência|"
                                    "ch_pr=Cheques a &Prazo|CopiaCheque=Cópia do C&heque|"
-                                   "Verso=&Verso do Cheque|Relat=&Relatório")},
+                                   "Verso=&Verso do Cheque|Relat=&Relatório|"
+                                   "Can_Rel=Cance&la Relatório")},
         CasoMenu{"Help", "Aju&da", "",
                  "Topicos=Aj&uda do Sofware QX-70 Mira|Sobre_T=&Sobre o Software QX-70 Mira"}),
     [](const auto &caso) { return caso.param.nome; });
@@ -107,13 +108,15 @@ TEST_F(MenuTest, OnlyEntriesThatLeadSomewhereAreEnabled)
     QStringList ligadas;
     for (const char *nome : {"Conf_Qx70", "MOpSoft", "Sair", "subChequeNormal", "subChequeTransferencia",
                              "Favor", "Cidad", "CpoX", "Layout", "Imp_Cheque", "Imp_ChequeTransf", "ch_pr",
-                             "CopiaCheque", "Verso", "Relat", "Topicos", "Sobre_T"}) {
+                             "CopiaCheque", "Verso", "Relat", "Can_Rel", "Topicos", "Sobre_T"}) {
         const auto *acao = Tela().findChild<QAction *>(nome);
         ASSERT_NE(acao, nullptr) << nome;
         if (acao->isEnabled())
             ligadas << nome;
     }
-    EXPECT_EQ(ligadas.join(' '), "MOpSoft Sair CpoX Imp_Cheque Verso Topicos Sobre_T");
+    EXPECT_EQ(ligadas.join(' '),
+              "Conf_Qx70 MOpSoft Sair subChequeNormal Favor Cidad CpoX Imp_Cheque Verso Relat "
+              "Can_Rel Topicos Sobre_T");
 }
 
 TEST_F(MenuTest, NoEntryTakesAnAcceleratorThatAnotherControlHas)

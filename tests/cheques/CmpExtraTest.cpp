@@ -125,6 +125,15 @@ TEST_F(CmpExtraTest, AStoredLineOfThreeDigitsIsCutWhenItIsShown)
     EXPECT_EQ(Posicao(), "12,7");
 }
 
+TEST_F(CmpExtraTest, AStoredColumnOfFourDigitsIsCutWhenItIsShown)
+{
+    AbreCom("Campo01Lin=7\nCampo01Col=1234\n");
+    Escolhe(1);
+    EsperaCaixaDeErro("Tamanho Máximo deste campo...");
+    EXPECT_EQ(Posicao(), "7,123");
+    EXPECT_EQ(Chaves(), "none none 7 1234 none none") << "what is stored stays";
+}
+
 // --- saving ---
 
 struct CasoSalvo {

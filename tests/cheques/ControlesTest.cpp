@@ -122,7 +122,7 @@ TEST_F(Controles, EveryTextBoxHasANameOfItsOwn)
 
 TEST_F(Controles, FunctionsOfScreensThatAreNotThereAreDisabled)
 {
-    const QList<int> ligadas = {0, 1, 3, 4};
+    const QList<int> ligadas = {0, 1, 2, 3, 4};
     for (int i = 0; i < 8; ++i)
         EXPECT_EQ(apoio::Controle<QPushButton>(Tela(), QString("Opcoes(%1)").arg(i))->isEnabled(),
                   ligadas.contains(i))
@@ -149,17 +149,18 @@ TEST_P(Menu, EntryHasItsCaptionAndIsOnWhenItsScreenIsThere)
 }
 INSTANTIATE_TEST_SUITE_P(
     Entradas, Menu,
-    testing::Values(CasoMenu{"Conf_Qx70", "C&onfigurações", false},
+    testing::Values(CasoMenu{"Conf_Qx70", "C&onfigurações", true},
                     CasoMenu{"MOpSoft", "Opções do Sof&tware", true}, CasoMenu{"Sair", "&Sair", true},
-                    CasoMenu{"subChequeNormal", "Para Impressão de Cheque &Normal", false},
+                    CasoMenu{"subChequeNormal", "Para Impressão de Cheque &Normal", true},
                     CasoMenu{"subChequeTransferencia", "Para Impressão de Cheque &Transferência", false},
-                    CasoMenu{"Favor", "&Favorecidos", false}, CasoMenu{"Cidad", "&Cidades", false},
+                    CasoMenu{"Favor", "&Favorecidos", true}, CasoMenu{"Cidad", "&Cidades", true},
                     CasoMenu{"CpoX", "Campo &Extra", true}, CasoMenu{"Layout", "&Layout de Cópia", false},
                     CasoMenu{"Imp_Cheque", "&Cheque", true},
                     CasoMenu{"Imp_ChequeTransf", "Cheque &Transferência", false},
                     CasoMenu{"ch_pr", "Cheques a &Prazo", false},
                     CasoMenu{"CopiaCheque", "Cópia do C&heque", false},
-                    CasoMenu{"Verso", "&Verso do Cheque", true}, CasoMenu{"Relat", "&Relatório", false},
+                    CasoMenu{"Verso", "&Verso do Cheque", true}, CasoMenu{"Relat", "&Relatório", true},
+                    CasoMenu{"Can_Rel", "Cance&la Relatório", true},
                     CasoMenu{"Topicos", "Aj&uda do Sofware QX-70 Mira", true},
                     CasoMenu{"Sobre_T", "&Sobre o Software QX-70 Mira", true}),
     [](const auto &caso) { return caso.param.nome.toStdString(); });
@@ -199,7 +200,8 @@ TEST_F(Controles, TabReachesEveryControl)
     PreencheCheque();
     VaiPara("Text1(0)");
     const QStringList volta = VoltaDoTab(Tela());
-    QStringList esperados = {"CheckBox", "Opcoes(0)", "Opcoes(1)", "Opcoes(3)", "Opcoes(4)", "Option1"};
+    QStringList esperados = {"CheckBox",  "Opcoes(0)", "Opcoes(1)", "Opcoes(2)",
+                             "Opcoes(3)", "Opcoes(4)", "Option1"};
     for (const auto *campo : Tela().findChildren<QLineEdit *>())
         esperados << campo->objectName();
     EXPECT_EQ(QSet<QString>(volta.begin(), volta.end()), QSet<QString>(esperados.begin(), esperados.end()))

@@ -133,6 +133,35 @@ TEST_P(F4, SavesAnEmptyFieldAsOneBlank)
 }
 INSTANTIATE_TEST_SUITE_P(Campos, F4, testing::ValuesIn(CasosSalvos()), kNomeDoControle);
 
+// The settings file keeps the blanks around a value, but gives it without them.
+struct CasoBrancos {
+    std::string nome;
+    QString digitada;
+    std::string volta;
+};
+void PrintTo(const CasoBrancos &c, std::ostream *os)
+{
+    *os << '"' << c.digitada.toStdString() << '"';
+}
+class LinhaComBrancos : public ComEntradaDe<CasoBrancos> {};
+TEST_P(LinhaComBrancos, ComesBackWithoutThemAtTheNextStart)
+{
+    Abre();
+    DigitaEm("Text2(4)", GetParam().digitada);
+    Tecla(Qt::Key_F4);
+    EXPECT_EQ(Texto("Text2(4)"), GetParam().digitada.toStdString()) << "the screen keeps what was typed";
+    EXPECT_EQ(m_escritorio.Chave("Verso", "Linha04"), GetParam().digitada);
+    Abre();
+    EXPECT_EQ(Texto("Text2(4)"), GetParam().volta);
+}
+INSTANTIATE_TEST_SUITE_P(Brancos, LinhaComBrancos,
+                         testing::Values(CasoBrancos{"OnBothSides", "  um dois ", "um dois"},
+                                         CasoBrancos{"Before", "   um", "um"},
+                                         CasoBrancos{"Behind", "um   ", "um"},
+                                         CasoBrancos{"InsideTheyStay", "um   dois", "um   dois"},
+                                         CasoBrancos{"NothingElseIsOneBlank", "    ", " "}),
+                         kNomeDoCaso);
+
 class F4SemChave : public ComEntradaDe<CasoTecla> {};
 TEST_P(F4SemChave, LeavesTheSettingsAsTheyAre)
 {

@@ -154,6 +154,35 @@ TEST_F(ChequesAntigos, RowsOfAnyNumberGoAndExactlyThose)
     EXPECT_EQ(m_escritorio.Linhas("PRAGMA integrity_check")[0][0], "ok");
 }
 
+// The rows go in groups of 500: the group in which one is refused stays whole, those before it are gone.
+TEST_F(ChequesAntigos, ARowRefusedInTheSecondGroupKeepsThatGroupAndTheRest)
+{
+    m_escritorio.Sql("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 1200) "
+                     "INSERT INTO Log (\"Index\", Codigo, Data) SELECT printf('%010d', i), "
+                     "printf('%05d', i), '01/01/03' FROM n;"
+                     "CREATE TRIGGER segura BEFORE DELETE ON Log WHEN old.\"Index\" = '0000000750' "
+                     "BEGIN SELECT RAISE(ABORT, 'esta linha fica'); END");
+    PoeCopias({"cop0101.03"});
+    AbreRespondendo({kSim, kSim, QMessageBox::Ok, kSim});
+    EXPECT_EQ(m_escritorio.Linhas("SELECT count(*), min(\"Index\"), max(\"Index\") FROM Log")[0],
+              (QStringList{"700", "0000000501", "0000001200"}));
+    ASSERT_EQ(m_caixasDoInicio.size(), 4U);
+    const apoio::Caixa caixa = m_caixasDoInicio[2];
+    EXPECT_TRUE(caixa.texto.startsWith("Ocorreu erro ")) << caixa.texto.toStdString();
+    EXPECT_TRUE(caixa.texto.contains("A linha foi recusada pelas regras do banco de dados"))
+        << caixa.texto.toStdString();
+    EXPECT_TRUE(caixa.texto.contains("esta linha fica")) << caixa.texto.toStdString();
+    EXPECT_EQ(caixa.titulo, "QX70 MIRA - Document Printer");
+    EXPECT_EQ(caixa.icone, QMessageBox::Warning);
+    EXPECT_EQ(m_caixasDoInicio[3].texto, kPerguntaDasCopias.arg(30)) << "the start goes on";
+    EXPECT_EQ(Copias(), "");
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(Foco(), "Text1(0)");
+    m_escritorio.Sql("DROP TRIGGER segura");
+    AbreRespondendo({kSim, kSim});
+    EXPECT_EQ(Datas(), "") << "the next start offers them again";
+}
+
 TEST_F(ChequesAntigos, OtherProgramsReachTheStoreAfterwards)
 {
     PoeCheques({"01/01/03", "01/02/03"});

@@ -14,7 +14,6 @@ namespace reports {
 namespace {
 
 constexpr qsizetype kTamanhoDaChave = 10;
-const QString kCancelado = QStringLiteral("C");
 constexpr QStringView kDivisa = u" | ";
 
 /// A piece of the line. One wider than its column is shown whole and shifts what follows.

@@ -24,6 +24,8 @@ QString MontaLinhaDoLog(const CamposDaLinha &campos);
 /// Whether the row has a date that CVDate refuses; no date at all is none of those.
 bool DataIlegivel(const ChequeDoLog &cheque);
 
+inline const QString kCancelado = QStringLiteral("C"); ///< `StCancel` of a cancelled cheque
+
 /// What stands above the list. As a text, the first three titles are not aligned to their columns, on
 /// purpose; the screen draws each word over its own.
 inline const QString kTitulosDaLista =

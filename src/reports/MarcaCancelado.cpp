@@ -4,6 +4,7 @@
 #include "plataforma/basico/RuntimeError.h"
 #include "plataforma/basico/Texto.h"
 #include "plataforma/jet/Dynaset.h"
+#include "reports/LinhaDoLog.h"
 
 namespace reports {
 
@@ -28,7 +29,7 @@ bool EAtual(const plataforma::Dynaset &log, const QString &chave)
 void Marca(plataforma::Dynaset &log)
 {
     log.Edit();
-    log.SetField(QStringLiteral("StCancel"), QStringLiteral("C"));
+    log.SetField(QStringLiteral("StCancel"), kCancelado);
     log.Update();
 }
 

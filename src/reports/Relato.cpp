@@ -45,7 +45,6 @@ constexpr int kFecha = 3;
 constexpr int kDigitosDoBanco = 3;
 constexpr int kColunaDoBanco = 19;  // of a list line
 constexpr int kLinhasPorLote = 500; // rows marked together: each group costs one wait for the disk
-const QString kCancelado = QStringLiteral("C");
 
 QString TextoDoSumido(const QString &indice)
 {

@@ -24,6 +24,7 @@ Saida::Saida(nucleo::Sistema &sistema, const QString &legenda, QWidget *pai)
     setWindowModality(Qt::ApplicationModal);
     MontaControles(legenda);
     CentraNaTela();
+    m_option1(0)->setFocus();
 }
 
 void Saida::MontaControles(const QString &legenda)
